@@ -1,0 +1,185 @@
+#pragma once
+// The field functions of the record walk. Each handles one kind of field for all six
+// operations and returns 1, or 0 on a difference while comparing or on a file that
+// cannot deliver the field while reading. Integers and doubles are stored
+// little-endian exactly as they lie in memory; counts are u32 in front of elements.
+
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <type_traits>
+
+#include "kernel/serial.h"
+#include "kernel/vector_class.h"
+
+static_assert(std::endian::native == std::endian::little, "record files are little-endian as memory is");
+static_assert(sizeof(int) == 4 && sizeof(double) == 8, "record fields assume 32-bit int and 64-bit double");
+
+namespace serial_detail {
+
+template <class T>
+int Scalar(int op, T& field, const T* other, cSerialFile* file) {
+  switch (op) {
+    case SERIAL_INIT: field = T{}; return 1;
+    case SERIAL_COPY: if (other != nullptr) field = *other; return 1;
+    case SERIAL_COMPARE: return other == nullptr || field == *other;
+    case SERIAL_READ: return file->ReadValue(field);
+    case SERIAL_WRITE: file->WriteValue(field); return 1;
+    default: return 1;
+  }
+}
+
+template <class T>
+int PlainArray(int op, T* field, const T* other, int count, cSerialFile* file) {
+  std::size_t n = count > 0 ? static_cast<std::size_t>(count) : 0;
+  switch (op) {
+    case SERIAL_INIT: for (std::size_t i = 0; i < n; ++i) field[i] = T{}; return 1;
+    case SERIAL_COPY: if (other != nullptr) for (std::size_t i = 0; i < n; ++i) field[i] = other[i]; return 1;
+    case SERIAL_COMPARE:
+      if (other != nullptr) for (std::size_t i = 0; i < n; ++i) if (!(field[i] == other[i])) return 0;
+      return 1;
+    case SERIAL_READ: return file->Read(field, n * sizeof(T));
+    case SERIAL_WRITE: file->Write(field, n * sizeof(T)); return 1;
+    default: return 1;
+  }
+}
+
+// Reads a stored element count. A count that the rest of the file cannot hold, at
+// `minBytesEach` bytes an element, fails the file, so that nothing is allocated beyond
+// what the file could describe.
+bool ReadCount(cSerialFile* file, std::size_t minBytesEach, std::uint32_t& count);
+void WriteCount(cSerialFile* file, std::size_t count);
+
+// A vector of plain elements stored back to back: integers, bytes, pairs.
+template <class T>
+int PlainVector(int op, VECTOR_CLASS<T>& field, const VECTOR_CLASS<T>* other, cSerialFile* file) {
+  static_assert(std::is_trivially_copyable_v<T>);
+  switch (op) {
+    case SERIAL_INIT: field.clear(); return 1;
+    case SERIAL_COPY: if (other != nullptr) field.assign(other->begin(), other->end()); return 1;
+    case SERIAL_COMPARE:
+      if (other == nullptr) return 1;
+      return field.size() == other->size() &&
+             (field.empty() || std::memcmp(field.data(), other->data(), field.size() * sizeof(T)) == 0);
+    case SERIAL_READ: {
+      std::uint32_t n = 0;
+      if (!ReadCount(file, sizeof(T), n)) return 0;
+      field.clear();
+      field.resize(n);
+      return file->Read(field.data(), n * sizeof(T));
+    }
+    case SERIAL_WRITE:
+      WriteCount(file, field.size());
+      file->Write(field.data(), field.size() * sizeof(T));
+      return 1;
+    default: return 1;
+  }
+}
+
+}  // namespace serial_detail
+
+inline int SerialInt(int op, std::int32_t& f, const std::int32_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
+inline int SerialInt(int op, std::uint32_t& f, const std::uint32_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
+inline int SerialShort(int op, std::int16_t& f, const std::int16_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
+inline int SerialShort(int op, std::uint16_t& f, const std::uint16_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
+inline int SerialByte(int op, std::int8_t& f, const std::int8_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
+inline int SerialByte(int op, std::uint8_t& f, const std::uint8_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
+// Equality of doubles is `==`: +0.0 equals -0.0 and a NaN equals nothing.
+inline int SerialDouble(int op, double& f, const double* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
+
+// Fixed arrays: count elements in one piece, no count stored.
+inline int SerialIntArray(int op, std::int32_t* f, const std::int32_t* o, int count, cSerialFile* file) {
+  return serial_detail::PlainArray(op, f, o, count, file);
+}
+inline int SerialDoubleArray(int op, double* f, const double* o, int count, cSerialFile* file) {
+  return serial_detail::PlainArray(op, f, o, count, file);
+}
+
+// Text: u32 length counting the NUL, then the bytes and the NUL; an empty text is the
+// length 1 alone. A write stops at the first NUL; normalising removes every CR.
+int SerialString(int op, std::string& f, const std::string* o, cSerialFile* file);
+
+inline int SerialIntVector(int op, VECTOR_CLASS<std::int32_t>& f, const VECTOR_CLASS<std::int32_t>* o, cSerialFile* file) {
+  return serial_detail::PlainVector(op, f, o, file);
+}
+inline int SerialByteVector(int op, VECTOR_CLASS<std::uint8_t>& f, const VECTOR_CLASS<std::uint8_t>* o, cSerialFile* file) {
+  return serial_detail::PlainVector(op, f, o, file);
+}
+// Elements of 8 bytes, such as a pair of two 32-bit coordinates.
+template <class T>
+int SerialPairVector(int op, VECTOR_CLASS<T>& f, const VECTOR_CLASS<std::type_identity_t<T>>* o, cSerialFile* file) {
+  static_assert(sizeof(T) == 8, "pair elements are 8 bytes on disk");
+  return serial_detail::PlainVector(op, f, o, file);
+}
+
+int SerialVectorVector(int op, VECTOR_CLASS<VECTOR_CLASS<std::int32_t>>& f,
+                       const VECTOR_CLASS<VECTOR_CLASS<std::int32_t>>* o, cSerialFile* file);
+int SerialVectorArray(int op, VECTOR_CLASS<std::int32_t>* f, const VECTOR_CLASS<std::int32_t>* o, int count,
+                      cSerialFile* file);
+int SerialStringVector(int op, VECTOR_CLASS<std::string>& f, const VECTOR_CLASS<std::string>* o, cSerialFile* file);
+
+// A nested record: its own Load and Save stream, so its migrations and clamps run.
+template <class T>
+int SerialRecord(int op, T& f, const std::type_identity_t<T>* o, cSerialFile* file) {
+  switch (op) {
+    case SERIAL_INIT: f.Reset(); return 1;
+    case SERIAL_COPY: if (o != nullptr) f.Copy(*o); return 1;
+    case SERIAL_COMPARE: return o == nullptr || Compare(f, *o);
+    case SERIAL_READ: return f.Load(file);
+    case SERIAL_WRITE: f.Save(file); return 1;
+    case SERIAL_NORMALIZE: f.Normalize(); return 1;
+    default: return 1;
+  }
+}
+
+template <class T>
+int SerialRecordArray(int op, T* f, const std::type_identity_t<T>* o, int count, cSerialFile* file) {
+  for (int i = 0; i < count; ++i) {
+    if (!SerialRecord<T>(op, f[i], o != nullptr ? &o[i] : nullptr, file)) return 0;
+  }
+  return 1;
+}
+
+// Reading erases the vector and fills it with copies of a freshly constructed T, so
+// each element starts from the constructor's defaults, then loads each in order.
+template <class T>
+int ReadRecordVector(VECTOR_CLASS<T>& f, cSerialFile* file) {
+  std::uint32_t n = 0;
+  // Every record stores at least one byte, which bounds the count by the file's size.
+  if (!serial_detail::ReadCount(file, 1, n)) return 0;
+  f.clear();
+  f.insert(f.end(), n, T());
+  for (T& element : f) {
+    if (!element.Load(file)) return 0;
+  }
+  return 1;
+}
+
+template <class T>
+int SerialRecordVector(int op, VECTOR_CLASS<T>& f, const VECTOR_CLASS<std::type_identity_t<T>>* o, cSerialFile* file) {
+  switch (op) {
+    case SERIAL_INIT: f.clear(); return 1;
+    case SERIAL_COPY:
+      if (o == nullptr) return 1;
+      f.resize(o->size());
+      for (std::size_t i = 0; i < f.size(); ++i) f[i].Copy((*o)[i]);
+      return 1;
+    case SERIAL_COMPARE:
+      if (o == nullptr) return 1;
+      if (f.size() != o->size()) return 0;
+      for (std::size_t i = 0; i < f.size(); ++i) {
+        if (!Compare(f[i], (*o)[i])) return 0;
+      }
+      return 1;
+    case SERIAL_READ: return ReadRecordVector(f, file);
+    case SERIAL_WRITE:
+      serial_detail::WriteCount(file, f.size());
+      for (T& element : f) element.Save(file);
+      return 1;
+    case SERIAL_NORMALIZE:
+      for (T& element : f) element.Normalize();
+      return 1;
+    default: return 1;
+  }
+}

@@ -1,0 +1,93 @@
+#include "platform/file_io.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+bool ReadWholeFile(const std::filesystem::path& path, std::vector<unsigned char>& out) {
+  int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (fd < 0) return false;
+  struct stat st {};
+  if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+    ::close(fd);
+    return false;
+  }
+  ::posix_fadvise(fd, 0, 0, POSIX_FADV_SEQUENTIAL);
+  std::vector<unsigned char> data;
+  data.reserve(static_cast<std::size_t>(st.st_size));
+  unsigned char chunk[65536];
+  for (;;) {
+    ssize_t n = ::read(fd, chunk, sizeof chunk);
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) {
+      ::close(fd);
+      return false;
+    }
+    if (n == 0) break;
+    data.insert(data.end(), chunk, chunk + n);
+  }
+  ::close(fd);
+  out = std::move(data);
+  return true;
+}
+
+cAtomicFile::~cAtomicFile() { Abort(); }
+
+bool cAtomicFile::Create(const std::filesystem::path& target) {
+  Abort();
+  m_target = target;
+  std::filesystem::path dir = target.parent_path();
+  if (dir.empty()) dir = ".";
+  std::string pattern = (dir / ("." + target.filename().string() + ".XXXXXX")).string();
+  int fd = ::mkstemp(pattern.data());
+  if (fd < 0) return false;
+  // mkstemp makes the file private; a saved project file gets the usual permissions.
+  mode_t mask = ::umask(0);
+  ::umask(mask);
+  ::fchmod(fd, 0666 & ~mask);
+  m_fd = fd;
+  m_tempPath = pattern;
+  m_bWriteFailed = false;
+  return true;
+}
+
+bool cAtomicFile::Write(const void* data, std::size_t size) {
+  if (m_fd < 0 || m_bWriteFailed) return false;
+  const char* p = static_cast<const char*>(data);
+  while (size > 0) {
+    ssize_t n = ::write(m_fd, p, size);
+    if (n < 0 && errno == EINTR) continue;
+    if (n <= 0) {
+      m_bWriteFailed = true;
+      return false;
+    }
+    p += n;
+    size -= static_cast<std::size_t>(n);
+  }
+  return true;
+}
+
+bool cAtomicFile::Commit() {
+  if (m_fd < 0) return false;
+  bool ok = !m_bWriteFailed && ::fsync(m_fd) == 0;
+  ok = (::close(m_fd) == 0) && ok;
+  m_fd = -1;
+  if (ok) ok = ::rename(m_tempPath.c_str(), m_target.c_str()) == 0;
+  if (!ok) ::unlink(m_tempPath.c_str());
+  m_tempPath.clear();
+  return ok;
+}
+
+void cAtomicFile::Abort() {
+  if (m_fd < 0) return;
+  ::close(m_fd);
+  ::unlink(m_tempPath.c_str());
+  m_fd = -1;
+  m_tempPath.clear();
+}
+
+bool WriteFileAtomic(const std::filesystem::path& target, const void* data, std::size_t size) {
+  cAtomicFile file;
+  return file.Create(target) && file.Write(data, size) && file.Commit();
+}

@@ -1,0 +1,180 @@
+// Opening, loading and saving record files, and what bad input does.
+
+#include "kernel/record_vector_file.h"
+#include "kernel/test_records.h"
+#include "support/test_env.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+cFieldZoo FilledZoo() {
+  cFieldZoo zoo;
+  zoo.m_nInt = 42;
+  zoo.m_strText = "text";
+  zoo.m_vecInt = {1, 2, 3};
+  zoo.m_vecPair = {{1, 2}};
+  zoo.m_vecVec = {{4, 5}};
+  zoo.m_vecStr = {"s"};
+  zoo.m_vecItem.resize(2);
+  zoo.m_vecItem[1].m_strName = "second";
+  zoo.m_aItem[1].m_vecNums = {8};
+  return zoo;
+}
+
+std::vector<unsigned char> Le32(std::uint32_t v) { return Bytes({int(v & 0xFF), int(v >> 8 & 0xFF), int(v >> 16 & 0xFF), int(v >> 24)}); }
+
+}  // namespace
+
+using SerialFileTest = ProjectDirTest;
+
+TEST_F(SerialFileTest, VersionHeaderAcceptsUpTo290AndRefusesAbove) {
+  cTestItem item;
+  item.m_nValue = 3;
+  ASSERT_EQ(item.SaveFile("item.dat"), 1);
+  EXPECT_EQ(FileBytes("item.dat"), Bytes({0x22, 1, 0, 0, 3, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0}));
+
+  std::vector<unsigned char> newer = FileBytes("item.dat");
+  newer[0] = 0x23;  // 291
+  WriteBytes("newer.dat", newer);
+
+  cTestItem loaded;
+  loaded.m_nValue = 77;
+  EXPECT_EQ(loaded.LoadFile("newer.dat"), 0);
+  EXPECT_EQ(loaded.m_nValue, 77);
+  EXPECT_EQ(g_bFileTooNew, 1);
+  EXPECT_EQ(g_nFileVersion, 291u);
+
+  // A missing file leaves both globals as the last open set them.
+  EXPECT_EQ(loaded.LoadFile("missing.dat"), 0);
+  EXPECT_EQ(g_bFileTooNew, 1);
+  EXPECT_EQ(g_nFileVersion, 291u);
+
+  // The next file that opens clears the flag.
+  EXPECT_EQ(loaded.LoadFile("item.dat"), 1);
+  EXPECT_EQ(g_bFileTooNew, 0);
+  EXPECT_EQ(g_nFileVersion, 290u);
+  EXPECT_EQ(loaded.m_nValue, 3);
+}
+
+TEST_F(SerialFileTest, NullOrEmptyPathOpensTheNameErr) {
+  cTestItem item;
+  EXPECT_EQ(item.LoadFile(static_cast<const char*>(nullptr)), 0);
+  EXPECT_EQ(item.LoadFile(""), 0);
+  cTestItem stored;
+  stored.m_nValue = 12;
+  ASSERT_EQ(stored.SaveFile("err"), 1);
+  EXPECT_EQ(item.LoadFile(""), 1);
+  EXPECT_EQ(item.m_nValue, 12);
+}
+
+TEST_F(SerialFileTest, StoredPathsResolveBelowTheProjectRootIgnoringCase) {
+  fs::create_directories("Data/DataBase");
+  cTestItem item;
+  item.m_nValue = 5;
+  ASSERT_EQ(item.SaveFile("data\\database\\Item.dat"), 1);
+  EXPECT_TRUE(fs::exists("Data/DataBase/Item.dat"));
+  cTestItem loaded;
+  EXPECT_EQ(loaded.LoadFile("DATA\\DATABASE\\ITEM.DAT"), 1);
+  EXPECT_EQ(loaded.m_nValue, 5);
+}
+
+TEST_F(SerialFileTest, EveryTruncationFailsAndLeavesTheRecordAsItWas) {
+  cFieldZoo zoo = FilledZoo();
+  ASSERT_EQ(zoo.SaveFile("zoo.dat"), 1);
+  std::vector<unsigned char> whole = FileBytes("zoo.dat");
+
+  cFieldZoo before;
+  before.m_strText = "kept";
+  before.m_vecItem.resize(1);
+  for (std::size_t length = 0; length < whole.size(); ++length) {
+    cFieldZoo target;
+    target.Copy(before);
+    EXPECT_EQ(target.LoadStream(OpenSerialReadBuffer({whole.begin(), whole.begin() + length})), 0) << length;
+    EXPECT_TRUE(Compare(target, before)) << "changed by a load cut at " << length;
+  }
+  cFieldZoo target;
+  EXPECT_EQ(target.LoadStream(OpenSerialReadBuffer(whole)), 1);
+  EXPECT_TRUE(Compare(target, zoo));
+}
+
+TEST_F(SerialFileTest, ImpossibleCountsAndLengthsFailWithoutAllocating) {
+  std::vector<unsigned char> header = Bytes({0x22, 1, 0, 0});
+  auto stream = [&](std::vector<std::vector<unsigned char>> parts) {
+    std::vector<unsigned char> bytes = header;
+    for (auto& p : parts) bytes.insert(bytes.end(), p.begin(), p.end());
+    return bytes;
+  };
+  const std::vector<unsigned char> emptyText = Le32(1), emptyVec = Le32(0);
+
+  cTestItem item;
+  item.m_nValue = 5;
+  // A text length of 0 is not something any writer stores.
+  EXPECT_EQ(item.LoadStream(OpenSerialReadBuffer(stream({Le32(1), Le32(0), emptyVec}))), 0);
+  EXPECT_NE(g_strLastSerialFailure.find("length of 0"), std::string::npos);
+  // A text that claims more than the file holds.
+  EXPECT_EQ(item.LoadStream(OpenSerialReadBuffer(stream({Le32(1), Le32(0xFFFFFFF0), emptyVec}))), 0);
+  // Counts far beyond the file, for each kind of vector.
+  EXPECT_EQ(item.LoadStream(OpenSerialReadBuffer(stream({Le32(1), emptyText, Le32(0x40000000)}))), 0);
+  EXPECT_EQ(item.m_nValue, 5);
+
+  cFieldZoo zoo;
+  std::vector<unsigned char> prefix = stream({Le32(0), Bytes({0, 0, 0}), Bytes({0, 0, 0, 0, 0, 0, 0, 0}),
+                                              std::vector<unsigned char>(12), std::vector<unsigned char>(16), emptyText});
+  for (int vectorIndex = 0; vectorIndex < 6; ++vectorIndex) {
+    std::vector<unsigned char> bytes = prefix;
+    for (int i = 0; i < vectorIndex; ++i) bytes.insert(bytes.end(), emptyVec.begin(), emptyVec.end());
+    if (vectorIndex == 5) bytes.insert(bytes.end(), emptyVec.begin(), emptyVec.end());  // the array holds two vectors
+    auto huge = Le32(0xFFFFFFFF);
+    bytes.insert(bytes.end(), huge.begin(), huge.end());
+    EXPECT_EQ(zoo.LoadStream(OpenSerialReadBuffer(bytes)), 0) << vectorIndex;
+  }
+  VECTOR_CLASS<cTestItem> items(2);
+  EXPECT_EQ(LoadVector(items, OpenSerialReadBuffer(stream({Le32(0x7FFFFFFF)}))), 0);
+  EXPECT_EQ(items.size(), 2u);
+}
+
+TEST_F(SerialFileTest, AShortHeaderIsNoFile) {
+  g_nFileVersion = 17;
+  WriteBytes("short.dat", Bytes({0x22, 1}));
+  cTestItem item;
+  EXPECT_EQ(item.LoadFile("short.dat"), 0);
+  EXPECT_EQ(g_nFileVersion, 17u);
+  EXPECT_EQ(item.LoadFile(fs::path(m_dir)), 0);  // a directory is no file either
+}
+
+TEST_F(SerialFileTest, VectorFilesRoundTripAndFailWhole) {
+  VECTOR_CLASS<cTestItem> items(3);
+  items[2].m_strName = "third";
+  ASSERT_EQ(SaveVector(items, "items.dat"), 1);
+  EXPECT_EQ(FileBytes("items.dat").size(), 4u + 4u + 3 * 12u + 6u);
+
+  VECTOR_CLASS<cTestItem> loaded;
+  ASSERT_EQ(LoadVector(loaded, "items.dat"), 1);
+  ASSERT_EQ(loaded.size(), 3u);
+  EXPECT_EQ(loaded[2].m_strName, "third");
+  EXPECT_EQ(loaded[0].m_nValue, 7);
+
+  std::vector<unsigned char> cut = FileBytes("items.dat");
+  cut.pop_back();
+  WriteBytes("cut.dat", cut);
+  EXPECT_EQ(LoadVector(loaded, "cut.dat"), 0);
+  EXPECT_EQ(loaded.size(), 3u);
+}
+
+TEST_F(SerialFileTest, AFailedSaveLeavesNoFileAndNoLitter) {
+  cTestItem item;
+  EXPECT_EQ(item.SaveFile("no_such_dir\\item.dat"), 0);
+  ASSERT_EQ(item.SaveFile("item.dat"), 1);
+  std::vector<unsigned char> before = FileBytes("item.dat");
+
+  // A save whose stream can't reach the disk keeps the old file.
+  SerialFilePtr file;
+  ASSERT_TRUE(OpenSerialWrite(file, "item.dat"));
+  file->WriteValue(std::int32_t{99});
+  file.reset();  // dropped without closing: nothing replaces the old file
+  EXPECT_EQ(FileBytes("item.dat"), before);
+  int entries = 0;
+  for (auto& e : fs::directory_iterator(m_dir)) entries += e.is_regular_file();
+  EXPECT_EQ(entries, 1);
+}

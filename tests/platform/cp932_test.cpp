@@ -1,0 +1,40 @@
+#include "platform/cp932.h"
+
+#include <gtest/gtest.h>
+
+TEST(Cp932, LeadBytesAndCharacterCounts) {
+  EXPECT_FALSE(IsLeadByte(0x80));
+  EXPECT_TRUE(IsLeadByte(0x81));
+  EXPECT_TRUE(IsLeadByte(0x9F));
+  EXPECT_FALSE(IsLeadByte(0xA0));  // half-width katakana are single bytes
+  EXPECT_FALSE(IsLeadByte(0xDF));
+  EXPECT_TRUE(IsLeadByte(0xE0));
+  EXPECT_TRUE(IsLeadByte(0xFC));
+  EXPECT_FALSE(IsLeadByte(0xFD));
+
+  const std::string text = "a\x83\x5C\xB1z";  // a, ソ, ｱ, z
+  EXPECT_EQ(Cp932CharCount(text), 4u);
+  EXPECT_EQ(Cp932CharCount("\x83"), 1u);  // a dangling lead byte is one character
+  EXPECT_EQ(Cp932FitBytes(text, 2), 1u);  // never half of ソ
+  EXPECT_EQ(Cp932FitBytes(text, 3), 3u);
+  EXPECT_EQ(Cp932FitBytes(text, 99), text.size());
+}
+
+TEST(Cp932, ConvertsWithTheWindowsMappingAndRefusesWhatHasNoForm) {
+  std::string utf8;
+  ASSERT_TRUE(Cp932ToUtf8("\x81\x60\x81\x7C", utf8));
+  EXPECT_EQ(utf8, "\xEF\xBD\x9E\xEF\xBC\x8D");  // U+FF5E and U+FF0D, where Shift_JIS gives U+301C, U+2212
+
+  std::string back;
+  ASSERT_TRUE(Utf8ToCp932(utf8, back));
+  EXPECT_EQ(back, "\x81\x60\x81\x7C");
+  EXPECT_EQ(CP932_TEXT("エラー"), "\x83\x47\x83\x89\x81\x5B");
+
+  std::string untouched = "keep";
+  EXPECT_FALSE(Utf8ToCp932("\xF0\x9F\x98\x80", untouched));  // an emoji has no CP932 form
+  EXPECT_EQ(untouched, "keep");
+  EXPECT_EQ(Utf8ToCp932Lossy("a\xF0\x9F\x98\x80" "b"), "a?b");
+
+  EXPECT_FALSE(Cp932ToUtf8("\x81\x20", utf8));  // a lead byte with no valid trail
+  EXPECT_EQ(Cp932ToUtf8Lossy("x\x81"), "x\xEF\xBF\xBD");
+}

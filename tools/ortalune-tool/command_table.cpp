@@ -1,0 +1,53 @@
+#include "command_table.h"
+
+#include <array>
+#include <cstdio>
+
+#include "record_types.h"
+
+namespace {
+
+const std::array kCommands = {
+    cToolCommand{"help", "help", "this list of commands and record types", &RunHelp},
+    cToolCommand{"resave", "resave [--type TYPE] FILE [OUT]",
+                 "read a record file of any version and write it at the current version (to OUT, or in place)",
+                 &RunResave},
+    cToolCommand{"report", "report [DIR]",
+                 "write the report log the editor starts with (Report_Editor.txt) in DIR, and print it", &RunReport},
+};
+
+}  // namespace
+
+std::span<const cToolCommand> ToolCommands() { return kCommands; }
+
+const cToolCommand* FindToolCommand(const std::string& name) {
+  for (const cToolCommand& command : kCommands) {
+    if (name == command.name) return &command;
+  }
+  return nullptr;
+}
+
+int RunHelp(std::span<const std::string>) {
+  std::printf("ortalune-tool: the headless companion of the Ortalune editor\n\nCommands:\n");
+  for (const cToolCommand& command : kCommands) std::printf("  %-36s %s\n", command.usage, command.summary);
+  std::printf("\nRecord types known to resave (--type, or found from the file's name):\n");
+  for (const cRecordFileType& type : RecordFileTypes()) {
+    std::printf("  %-14s %-18s %s\n", type.typeName, *type.fileName ? type.fileName : type.extension, type.summary);
+  }
+  return kToolOk;
+}
+
+int RunTool(std::span<const std::string> args) {
+  if (args.empty()) {
+    RunHelp({});
+    return kToolUsage;
+  }
+  const std::string& name = args[0];
+  if (name == "--help" || name == "-h") return RunHelp({});
+  const cToolCommand* command = FindToolCommand(name);
+  if (command == nullptr) {
+    std::fprintf(stderr, "ortalune-tool: unknown command '%s'; 'ortalune-tool --help' lists them\n", name.c_str());
+    return kToolUsage;
+  }
+  return command->run(args.subspan(1));
+}

@@ -1,0 +1,78 @@
+#include "record_types.h"
+
+#include <array>
+#include <cctype>
+
+#include "app/prop_sheet_size.h"
+#include "kernel/serial.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string Describe(const fs::path& path) { return path.string(); }
+
+std::string LoadFailureText(const fs::path& in) {
+  std::error_code ec;
+  if (!fs::exists(in, ec)) return Describe(in) + ": no such file";
+  if (g_bFileTooNew) {
+    return Describe(in) + ": version " + std::to_string(g_nFileVersion) + " is newer than this program's " +
+           std::to_string(g_nCurVersion);
+  }
+  if (g_strLastSerialFailure.empty()) return Describe(in) + ": cannot be read";
+  return Describe(in) + ": " + g_strLastSerialFailure;
+}
+
+cResaveResult Saved(const fs::path& in, const fs::path& out, std::uint32_t fromVersion) {
+  std::error_code ec;
+  auto size = fs::file_size(out, ec);
+  return {true, Describe(in) + " (version " + std::to_string(fromVersion) + ") -> " + Describe(out) + " (version " +
+                    std::to_string(g_nCurVersion) + ", " + std::to_string(ec ? 0 : size) + " bytes)"};
+}
+
+cResaveResult SaveFailed(const fs::path& out) { return {false, Describe(out) + ": cannot be written"}; }
+
+template <class T>
+cResaveResult ResaveRecord(const fs::path& in, const fs::path& out) {
+  T record;
+  g_strLastSerialFailure.clear();
+  if (!record.LoadFile(in)) return {false, LoadFailureText(in)};
+  std::uint32_t fromVersion = g_nFileVersion;
+  if (!record.SaveFile(out)) return SaveFailed(out);
+  return Saved(in, out, fromVersion);
+}
+
+// Later record classes join by adding a row.
+const std::array kRecordFileTypes = {
+    cRecordFileType{"SheetSize", "SheetSize.dat", "", "property sheet scale of this machine (e_data)",
+                    &ResaveRecord<cPropSheetSize>},
+};
+
+bool EqualIgnoringCase(std::string_view a, std::string_view b) {
+  if (a.size() != b.size()) return false;
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    if (std::tolower(static_cast<unsigned char>(a[i])) != std::tolower(static_cast<unsigned char>(b[i]))) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+std::span<const cRecordFileType> RecordFileTypes() { return kRecordFileTypes; }
+
+const cRecordFileType* FindRecordTypeByName(std::string_view typeName) {
+  for (const cRecordFileType& type : kRecordFileTypes) {
+    if (EqualIgnoringCase(type.typeName, typeName)) return &type;
+  }
+  return nullptr;
+}
+
+const cRecordFileType* FindRecordTypeForFile(const fs::path& path) {
+  std::string name = path.filename().string();
+  std::string extension = path.extension().string();
+  for (const cRecordFileType& type : kRecordFileTypes) {
+    if (*type.fileName != '\0' && EqualIgnoringCase(type.fileName, name)) return &type;
+    if (*type.extension != '\0' && EqualIgnoringCase(type.extension, extension)) return &type;
+  }
+  return nullptr;
+}
