@@ -39,7 +39,10 @@ bool cAtomicFile::Create(const std::filesystem::path& target) {
   m_target = target;
   std::filesystem::path dir = target.parent_path();
   if (dir.empty()) dir = ".";
-  std::string pattern = (dir / ("." + target.filename().string() + ".XXXXXX")).string();
+  std::string hidden = target.filename().string();
+  hidden.insert(0, 1, '.');
+  hidden.append(".XXXXXX");
+  std::string pattern = (dir / hidden).string();
   int fd = ::mkstemp(pattern.data());
   if (fd < 0) return false;
   // mkstemp makes the file private; a saved project file gets the usual permissions.

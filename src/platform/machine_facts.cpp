@@ -59,6 +59,7 @@ void ReadCpu(cMachineFacts& f) {
       std::memcpy(brand + leaf * 16, r, 16);
     }
     f.cpuBrand = brand;
+    f.cpuBrand.erase(f.cpuBrand.find_last_not_of(' ') + 1);  // the processor pads it with spaces
   }
 #endif
   if (f.cpuVendor.empty()) f.cpuVendor = ValueOf("/proc/cpuinfo", "vendor_id", ':');

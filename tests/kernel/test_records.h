@@ -1,6 +1,7 @@
 #pragma once
 // Small record classes that exercise the kernel the way the project's records do.
 
+#include <algorithm>
 #include <string>
 
 #include "kernel/serial_fields.h"
@@ -106,7 +107,8 @@ class cGatedRecord : public cSerial {
 
   int Load(cSerialFile* file) override {
     if (!cSerial::Load(file)) return 0;
-    if (g_nFileVersion < 80) m_nRate = m_nOldRate * 10;
+    // Widened first: an old file may hold any 32-bit value.
+    if (g_nFileVersion < 80) m_nRate = static_cast<std::int32_t>(std::clamp<std::int64_t>(std::int64_t{m_nOldRate} * 10, -1000, 1000));
     Clamp();
     return 1;
   }
