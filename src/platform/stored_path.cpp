@@ -52,7 +52,15 @@ std::string ResolveComponent(const fs::path& dir, const std::string& name) {
   return name;
 }
 
+std::string g_aliasFrom;
+std::string g_aliasTo;
+
 }  // namespace
+
+void SetStoredPathAlias(const std::string& from, const std::string& to) {
+  g_aliasFrom = from;
+  g_aliasTo = to;
+}
 
 fs::path NativePathOf(std::string_view stored, const fs::path& root) {
   std::string text = Cp932ToUtf8Lossy(stored);
@@ -69,6 +77,7 @@ fs::path NativePathOf(std::string_view stored, const fs::path& root) {
   parts.push_back(std::move(part));
 
   bool absolute = !text.empty() && (text[0] == '/' || text[0] == '\\');
+  if (!absolute && !g_aliasFrom.empty() && EqualIgnoringCase(parts.front(), g_aliasFrom)) parts.front() = g_aliasTo;
   fs::path result = absolute ? fs::path("/") : root;
   for (const std::string& component : parts) {
     if (component.empty()) continue;

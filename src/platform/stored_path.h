@@ -24,6 +24,11 @@ std::string DirOf(std::string_view stored);
 // so that new files can be created. An absolute stored path stays absolute.
 std::filesystem::path NativePathOf(std::string_view stored, const std::filesystem::path& root);
 
+// Makes NativePathOf read stored paths whose first component is `from` (ignoring case)
+// as if it were `to`; empty strings switch this off. Lets a check of a new project read
+// "default" where the project will have "data", without copying anything.
+void SetStoredPathAlias(const std::string& from, const std::string& to);
+
 // The same below the current directory, the project root of the running program.
 std::filesystem::path NativePathOf(std::string_view stored);
 

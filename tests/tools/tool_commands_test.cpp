@@ -2,17 +2,42 @@
 
 #include "app/prop_sheet_size.h"
 #include "command_table.h"
+#include "platform/cp932.h"
+#include "project/project_globals.h"
+#include "project/sheets.h"
+#include "support/bmp_writer.h"
 #include "support/test_env.h"
 
+namespace fs = std::filesystem;
+
 namespace {
+
+std::string g_toolErr;
+
 int Tool(std::vector<std::string> args) {
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
   int status = RunTool(args);
   testing::internal::GetCapturedStdout();
-  testing::internal::GetCapturedStderr();
+  g_toolErr = testing::internal::GetCapturedStderr();
   return status;
 }
+
+// Every file sheet of the table as a small bitmap (the fold sources at their full size).
+void WriteImages(const fs::path& dir) {
+  fs::create_directories(dir);
+  for (const SHEET_DESC& desc : SheetDescriptors()) {
+    if (desc.szPath == "E" || desc.bOptional) continue;
+    std::string name = desc.szPath.substr(6, desc.szPath.size() - 6 - 2);  // between "image\" and ".*"
+    int w = 32, h = 32;
+    if (name == "MapChip") w = 256, h = 1024;
+    if (name == "Character1") w = 48, h = 960;
+    if (name == "Event") w = h = 1024;
+    if (name.starts_with("Effect")) w = 64, h = 1024;
+    WriteBmp24(dir / (name + ".bmp"), w, h, [](int x, int y) { return static_cast<std::uint32_t>(x * 7 + y); });
+  }
+}
+
 }  // namespace
 
 using ResaveTest = ProjectDirTest;
@@ -58,4 +83,37 @@ TEST_F(ResaveTest, RefusesWhatItCannotReadAndLeavesTheFileAlone) {
   EXPECT_EQ(Tool({"resave"}), kToolUsage);
   EXPECT_EQ(Tool({"frobnicate"}), kToolUsage);
   EXPECT_EQ(Tool({"--help"}), kToolOk);
+}
+
+using CheckTest = ProjectDirTest;
+
+TEST_F(CheckTest, ANewProjectIsCheckedThroughItsDefaultTreeWithoutChangingIt) {
+  fs::create_directories("proj/default");
+  fs::create_directories("proj/e_data");
+  WriteImages("proj/image");
+  EXPECT_EQ(Tool({"check", "proj"}), kToolOk) << g_toolErr;
+  EXPECT_NE(g_toolErr.find("checking \"default\" in its place"), std::string::npos);
+  fs::current_path(m_dir);
+  EXPECT_FALSE(fs::exists("proj/data"));
+  EXPECT_EQ(std::distance(fs::directory_iterator("proj"), fs::directory_iterator()), 3);
+}
+
+TEST_F(CheckTest, AMissingSheetIsReportedAsTheEditorWouldAndFails) {
+  fs::create_directories("proj/data");
+  WriteImages("proj/image");
+  fs::remove("proj/image/Accessory.bmp");
+  EXPECT_EQ(Tool({"check", "proj"}), kToolFailed);
+  fs::current_path(m_dir);
+  // The messages the editor would show, in its order: the loader's, the load's, the start's.
+  ASSERT_EQ(m_prompt.shown.size(), 3u);
+  EXPECT_EQ(m_prompt.shown[0].text, CP932_TEXT("image\\Accessory.png(または.bmp) が見つかりません！"));
+  EXPECT_EQ(m_prompt.shown[1].text, CP932_TEXT("image\\Accessory.* が読み込めません！"));
+  EXPECT_EQ(m_prompt.shown[2].text,
+            CP932_TEXT("プロジェクトのロードに失敗しました！フォルダやファイルの位置や名称が変更された可能性があります！"));
+  for (cSurface& sheet : g_aSheet) sheet.Release();
+
+  EXPECT_EQ(Tool({"check", "nowhere"}), kToolFailed);
+  fs::create_directories("empty");
+  EXPECT_EQ(Tool({"check", "empty"}), kToolFailed);
+  EXPECT_NE(g_toolErr.find("neither"), std::string::npos);
 }

@@ -9,9 +9,13 @@ namespace {
 
 const std::array kCommands = {
     cToolCommand{"help", "help", "this list of commands and record types", &RunHelp},
-    cToolCommand{"resave", "resave [--type TYPE] FILE [OUT]",
-                 "read a record file of any version and write it at the current version (to OUT, or in place)",
+    cToolCommand{"resave", "resave [--type TYPE] [--no-project] FILE [OUT]",
+                 "read a record file of any version and write it at the current version (to OUT, or in place); "
+                 "the tables of the project in the current directory are loaded first",
                  &RunResave},
+    cToolCommand{"check", "check [DIR]",
+                 "load the project in DIR as the editor does and show each message it would; changes nothing",
+                 &RunCheck},
     cToolCommand{"report", "report [DIR]",
                  "write the report log the editor starts with (Report_Editor.txt) in DIR, and print it", &RunReport},
 };

@@ -3,7 +3,9 @@
 #include <array>
 #include <cctype>
 
+#include "app/edit_config.h"
 #include "app/prop_sheet_size.h"
+#include "app/test_play_settings.h"
 #include "kernel/serial.h"
 
 namespace fs = std::filesystem;
@@ -44,8 +46,11 @@ cResaveResult ResaveRecord(const fs::path& in, const fs::path& out) {
 
 // Later record classes join by adding a row.
 const std::array kRecordFileTypes = {
+    cRecordFileType{"EditConfig", "EditConfig.dat", "", "the editor's own settings and window places (e_data)",
+                    &ResaveRecord<cEditConfig>},
     cRecordFileType{"SheetSize", "SheetSize.dat", "", "property sheet scale of this machine (e_data)",
                     &ResaveRecord<cPropSheetSize>},
+    cRecordFileType{"Testplay", "Testplay.dat", "", "test play settings (e_data)", &ResaveRecord<cTestPlay>},
 };
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {

@@ -1,18 +1,61 @@
 #include <cstdio>
+#include <string>
 #include <filesystem>
 #include <vector>
 
+#include "app/edit_config_load.h"
 #include "app/main_window_link.h"
+#include "platform/cp932.h"
+#include "platform/prompt.h"
+#include "platform/stored_path.h"
+#include "project/project_globals.h"
+#include "project/project_load.h"
 #include "command_table.h"
 #include "record_types.h"
 
 namespace fs = std::filesystem;
 
+namespace {
+
+// Collects the project load's messages instead of printing them one by one.
+class cQuietPrompt : public cHeadlessPrompt {
+ public:
+  int MessageBox(void*, const std::string& text, const std::string&, unsigned style) override {
+    m_lastText = text;
+    return AnswerThatChangesNothing(style);
+  }
+  std::string m_lastText;
+};
+
+// Records clamp their references against the tables of the project, so a file is read
+// with the tables of the project in the current directory, when there is one. A project
+// that does not load would make the clamps cut references: refuse rather than lose data.
+bool LoadTablesOfCurrentProject() {
+  std::error_code ec;
+  if (!fs::is_directory(NativePathOf("data"), ec)) return true;
+  cQuietPrompt quiet;
+  cPrompt* previous = SetPrompt(&quiet);
+  LoadEditConfig(g_EditConfig, false);
+  int loaded = LoadProjectRecords();
+  SetPrompt(previous);
+  if (loaded) return true;
+  std::fprintf(stderr,
+               "resave: the project in the current directory does not load (%s);\n"
+               "        run 'ortalune-tool check' to see why, or resave from another directory with --no-project\n",
+               Cp932ToUtf8Lossy(quiet.m_lastText).c_str());
+  return false;
+}
+
+}  // namespace
+
 int RunResave(std::span<const std::string> args) {
   std::string typeName;
   std::vector<std::string> paths;
+  bool withProject = true;
   for (std::size_t i = 0; i < args.size(); ++i) {
-    if (args[i] == "--type" && i + 1 < args.size()) {
+    if (args[i] == "--no-project") {
+      withProject = false;
+    } else if (args[i] == "--type" && i + 1 < args.size()) {
       typeName = args[++i];
     } else if (args[i].starts_with("--type=")) {
       typeName = args[i].substr(7);
@@ -21,7 +64,7 @@ int RunResave(std::span<const std::string> args) {
     }
   }
   if (paths.empty() || paths.size() > 2) {
-    std::fprintf(stderr, "usage: ortalune-tool resave [--type TYPE] FILE [OUT]\n");
+    std::fprintf(stderr, "usage: ortalune-tool resave [--type TYPE] [--no-project] FILE [OUT]\n");
     return kToolUsage;
   }
   fs::path in = paths[0];
@@ -38,6 +81,7 @@ int RunResave(std::span<const std::string> args) {
     return kToolUsage;
   }
 
+  if (withProject && !LoadTablesOfCurrentProject()) return kToolFailed;
   cResaveResult result = type->resave(in, out);
   if (g_bRunEnding) {
     std::fprintf(stderr, "resave: %s: stopped by an internal error (see Report_Editor.txt); nothing trustworthy was written\n",

@@ -1,0 +1,8 @@
+target_sources(ortalune_core PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/ini_row.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/project_globals.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/project_load.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/project_tree.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/sheets.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/system_records.cpp
+)
