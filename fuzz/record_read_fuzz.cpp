@@ -3,6 +3,9 @@
 
 #include <cstdlib>
 
+#include "app/edit_config.h"
+#include "app/prop_sheet_size.h"
+#include "app/test_play_settings.h"
 #include "kernel/record_vector_file.h"
 #include "kernel/test_records.h"
 
@@ -31,6 +34,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   // The version byte picks among the gates of the older formats as well.
   CheckRecord<cFieldZoo>(input);
   CheckRecord<cGatedRecord>(input);
+  CheckRecord<cEditConfig>(input);
+  CheckRecord<cTestPlay>(input);
+  CheckRecord<cPropSheetSize>(input);
   VECTOR_CLASS<cTestItem> items;
   LoadVector(items, OpenSerialReadBuffer(input));
   return 0;
