@@ -6,8 +6,15 @@
 #include "app/edit_config.h"
 #include "app/prop_sheet_size.h"
 #include "app/test_play_settings.h"
+#include "database/anim.h"
+#include "database/compati_type.h"
+#include "database/help.h"
+#include "database/land.h"
+#include "database/media_tables.h"
+#include "database/skill_list.h"
 #include "kernel/record_vector_file.h"
 #include "kernel/test_records.h"
+#include "project/system.h"
 
 namespace {
 
@@ -27,6 +34,20 @@ void CheckRecord(const std::vector<unsigned char>& input) {
   if (SavedBytes(again) != once) std::abort();
 }
 
+template <class T>
+void CheckVector(const std::vector<unsigned char>& input) {
+  VECTOR_CLASS<T> records;
+  if (!LoadVector(records, OpenSerialReadBuffer(input))) return;
+  SerialFilePtr out = OpenSerialWriteBuffer();
+  WriteRecordVector(records, out.get());
+  std::vector<unsigned char> once = out->Bytes();
+  VECTOR_CLASS<T> again;
+  if (!LoadVector(again, OpenSerialReadBuffer(once))) std::abort();
+  SerialFilePtr out2 = OpenSerialWriteBuffer();
+  WriteRecordVector(again, out2.get());
+  if (out2->Bytes() != once) std::abort();
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -37,7 +58,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CheckRecord<cEditConfig>(input);
   CheckRecord<cTestPlay>(input);
   CheckRecord<cPropSheetSize>(input);
-  VECTOR_CLASS<cTestItem> items;
-  LoadVector(items, OpenSerialReadBuffer(input));
+  CheckVector<cTestItem>(input);
+  // The files of the game database.
+  CheckRecord<cSystem>(input);
+  CheckVector<cSkillList>(input);
+  CheckVector<cLand>(input);
+  CheckVector<cCompatiType>(input);
+  CheckVector<cPtVal>(input);
+  CheckVector<cCharaAnimPat>(input);
+  CheckVector<cEffectAnimPat>(input);
+  CheckVector<cEdPicture>(input);
+  CheckVector<cEdBack>(input);
+  CheckVector<cEdSound>(input);
+  CheckVector<cEdBgm>(input);
+  CheckVector<cEdHelp>(input);
   return 0;
 }

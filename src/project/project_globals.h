@@ -7,7 +7,11 @@
 #include "app/prop_sheet_size.h"
 #include "app/system_ini.h"
 #include "app/test_play_settings.h"
+#include "database/database.h"
+#include "database/land.h"
+#include "database/skill_list.h"
 #include "media/surface.h"
+#include "project/system.h"
 
 constexpr int kSheetCount = 38;
 
@@ -16,3 +20,7 @@ extern cTestPlay g_TestPlay;
 extern cPropSheetSize g_PropSheetSize;
 extern INI_VALUES g_Ini;
 extern cSurface g_aSheet[kSheetCount];
+extern cSystem g_System;
+extern cDatabase g_Database;
+extern VECTOR_CLASS<cLand> g_vecLand;
+extern VECTOR_CLASS<cSkillList> g_vecSkillList;

@@ -5,14 +5,24 @@
 #include "app/diagnostics.h"
 #include "kernel/record_vector_file.h"
 #include "platform/cp932.h"
+#include "project/project_files.h"
 #include "project/project_globals.h"
 #include "project/sheets.h"
 
 namespace {
 
-template <auto& Record>
-int LoadRecord(const char* path) {
-  return Record.LoadFile(path);
+int LoadDatabaseStep(const char*) { return LoadDatabase(); }
+
+// The images that follow are masked with the project's transparent colour.
+int PassKeyColour(const char*) {
+  g_nKeyColor = KeyColorOf(g_System);
+  return 1;
+}
+
+void NumberSkillListsAfterLoad(int) { NumberSkillLists(g_vecSkillList); }
+
+constexpr cLoadStep FileStep(const cProjectFile& file, eFailRule rule, void (*after)(int) = nullptr) {
+  return {file.path, file.load, rule, after};
 }
 
 // A project older than the test play file kept two of its settings in the editor
@@ -32,8 +42,15 @@ int LoadSheetsStep(const char*) {
 }
 
 // Records join this table as they are built, at their place in the order.
+const cProjectFile kTestPlayFile = {kTestPlayPath, [](const char* p) { return g_TestPlay.LoadFile(p); }, nullptr};
+
 const std::array kLoadSteps = {
-    cLoadStep{kTestPlayPath, &LoadRecord<g_TestPlay>, kFailIgnored, &MigrateTestPlay},
+    cLoadStep{nullptr, &LoadDatabaseStep, kFailStops, nullptr},
+    FileStep(kSystemFile, kFailStops),
+    FileStep(kTestPlayFile, kFailIgnored, &MigrateTestPlay),
+    cLoadStep{nullptr, &PassKeyColour, kFailStops, nullptr},
+    FileStep(kLandFile, kFailStops),
+    FileStep(kSkillFile, kFailStops, &NumberSkillListsAfterLoad),
     cLoadStep{nullptr, &LoadSheetsStep, kFailStops, nullptr, true},
 };
 

@@ -2,6 +2,8 @@
 
 #include "project/project_load.h"
 
+#include <algorithm>
+
 #include "app/diagnostics.h"
 #include "platform/cp932.h"
 #include "project/project_globals.h"
@@ -57,8 +59,11 @@ TEST_F(ProjectLoadTest, TestPlaySettingsOfAnOldProjectComeFromTheEditorConfigura
 
   // The file is missing and the last file opened is older than the test play file.
   g_nFileVersion = 220;
-  const cLoadStep& step = ProjectLoadSteps()[0];
-  ASSERT_STREQ(step.path, "e_data\\Testplay.dat");
+  auto steps = ProjectLoadSteps();
+  auto found = std::find_if(steps.begin(), steps.end(),
+                            [](const cLoadStep& s) { return s.path != nullptr && std::string(s.path) == "e_data\\Testplay.dat"; });
+  ASSERT_NE(found, steps.end());
+  const cLoadStep& step = *found;
   EXPECT_EQ(step.failRule, kFailIgnored);
   int loaded = step.load(step.path);
   EXPECT_EQ(loaded, 0);

@@ -3,6 +3,9 @@
 #include "app/prop_sheet_size.h"
 #include "command_table.h"
 #include "platform/cp932.h"
+#include "platform/stored_path.h"
+#include "kernel/record_vector_file.h"
+#include "project/project_files.h"
 #include "project/project_globals.h"
 #include "project/sheets.h"
 #include "support/bmp_writer.h"
@@ -36,6 +39,18 @@ void WriteImages(const fs::path& dir) {
     if (name.starts_with("Effect")) w = 64, h = 1024;
     WriteBmp24(dir / (name + ".bmp"), w, h, [](int x, int y) { return static_cast<std::uint32_t>(x * 7 + y); });
   }
+}
+
+// The record files of a new project, written by the project's own saves into `dataDir`
+// ("data" or "default") below `projectDir`.
+void WriteProjectFiles(const fs::path& projectDir, const std::string& dataDir) {
+  fs::path here = fs::current_path();
+  fs::create_directories(projectDir / dataDir / "database");
+  fs::current_path(projectDir);
+  SetStoredPathAlias("data", dataDir);
+  SaveAllDatabaseFiles();
+  SetStoredPathAlias("", "");
+  fs::current_path(here);
 }
 
 }  // namespace
@@ -88,7 +103,7 @@ TEST_F(ResaveTest, RefusesWhatItCannotReadAndLeavesTheFileAlone) {
 using CheckTest = ProjectDirTest;
 
 TEST_F(CheckTest, ANewProjectIsCheckedThroughItsDefaultTreeWithoutChangingIt) {
-  fs::create_directories("proj/default");
+  WriteProjectFiles("proj", "default");
   fs::create_directories("proj/e_data");
   WriteImages("proj/image");
   EXPECT_EQ(Tool({"check", "proj"}), kToolOk) << g_toolErr;
@@ -99,7 +114,7 @@ TEST_F(CheckTest, ANewProjectIsCheckedThroughItsDefaultTreeWithoutChangingIt) {
 }
 
 TEST_F(CheckTest, AMissingSheetIsReportedAsTheEditorWouldAndFails) {
-  fs::create_directories("proj/data");
+  WriteProjectFiles("proj", "data");
   WriteImages("proj/image");
   fs::remove("proj/image/Accessory.bmp");
   EXPECT_EQ(Tool({"check", "proj"}), kToolFailed);
@@ -116,4 +131,36 @@ TEST_F(CheckTest, AMissingSheetIsReportedAsTheEditorWouldAndFails) {
   fs::create_directories("empty");
   EXPECT_EQ(Tool({"check", "empty"}), kToolFailed);
   EXPECT_NE(g_toolErr.find("neither"), std::string::npos);
+}
+
+TEST_F(ResaveTest, TheTablesOfTheProjectHereAreLoadedFirstOrNothingIsWritten) {
+  cPropSheetSize size;
+  ASSERT_EQ(size.SaveFile("SheetSize.dat"), 1);
+  std::vector<unsigned char> before = FileBytes("SheetSize.dat");
+  before[0] = 200;  // version 200
+  before[1] = 0;
+  WriteBytes("SheetSize.dat", before);
+
+  fs::create_directories("data");  // a project whose files are missing
+  EXPECT_EQ(Tool({"resave", "SheetSize.dat"}), kToolFailed);
+  EXPECT_NE(g_toolErr.find("does not load"), std::string::npos);
+  EXPECT_EQ(FileBytes("SheetSize.dat"), before);
+  EXPECT_EQ(Tool({"resave", "--no-project", "SheetSize.dat"}), kToolOk) << g_toolErr;
+
+  WriteProjectFiles(".", "data");
+  EXPECT_EQ(Tool({"resave", "data/database/Skill.dat", "Skill.out"}), kToolOk) << g_toolErr;
+  EXPECT_EQ(FileBytes("Skill.out"), FileBytes("data/database/Skill.dat"));
+  m_prompt.shown.clear();
+}
+
+TEST_F(ResaveTest, CompatibilityRulesSurviveAResaveWithoutAProject) {
+  VECTOR_CLASS<cCompatiType> types(2);
+  g_Database.m_vecCompatiType = types;
+  ASSERT_EQ(SaveVector(types, fs::path("CompatiType.dat")), 1);
+  g_Database.m_vecCompatiType.clear();
+  std::vector<unsigned char> before = FileBytes("CompatiType.dat");
+  EXPECT_EQ(Tool({"resave", "CompatiType.dat"}), kToolOk) << g_toolErr;
+  EXPECT_NE(g_toolErr.find("no project tables loaded"), std::string::npos);
+  EXPECT_EQ(FileBytes("CompatiType.dat"), before);
+  g_Database.m_vecCompatiType.clear();
 }

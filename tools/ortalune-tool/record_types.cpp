@@ -6,7 +6,15 @@
 #include "app/edit_config.h"
 #include "app/prop_sheet_size.h"
 #include "app/test_play_settings.h"
-#include "kernel/serial.h"
+#include "database/anim.h"
+#include "database/compati_type.h"
+#include "database/help.h"
+#include "database/land.h"
+#include "database/media_tables.h"
+#include "database/skill_list.h"
+#include "kernel/record_vector_file.h"
+#include "project/project_globals.h"
+#include "project/system.h"
 
 namespace fs = std::filesystem;
 
@@ -44,8 +52,37 @@ cResaveResult ResaveRecord(const fs::path& in, const fs::path& out) {
   return Saved(in, out, fromVersion);
 }
 
+template <class T>
+cResaveResult ResaveVector(const fs::path& in, const fs::path& out) {
+  VECTOR_CLASS<T> records;
+  g_strLastSerialFailure.clear();
+  if (!LoadVector(records, in)) return {false, LoadFailureText(in)};
+  std::uint32_t fromVersion = g_nFileVersion;
+  // Compatibility rules refer to their own table: the file being written is that table.
+  if constexpr (std::is_same_v<T, cCompatiType>) g_Database.m_vecCompatiType = records;
+  if (!SaveVector(records, out)) return SaveFailed(out);
+  return Saved(in, out, fromVersion);
+}
+
 // Later record classes join by adding a row.
 const std::array kRecordFileTypes = {
+    cRecordFileType{"Back", "Back.dat", "", "backgrounds (data\\database)", &ResaveVector<cEdBack>},
+    cRecordFileType{"Bgm", "Bgm.dat", "", "music (data\\database)", &ResaveVector<cEdBgm>},
+    cRecordFileType{"CharaAnim", "CharaAnim.dat", "", "character animations (data\\database)",
+                    &ResaveVector<cCharaAnimPat>},
+    cRecordFileType{"CompatiType", "CompatiType.dat", "", "compatibility types (data\\database)",
+                    &ResaveVector<cCompatiType>},
+    cRecordFileType{"EffectAnim", "EffectAnim.dat", "", "effect animations (data\\database)",
+                    &ResaveVector<cEffectAnimPat>},
+    cRecordFileType{"Help", "Help.dat", "", "help topics (data\\database)", &ResaveVector<cEdHelp>},
+    cRecordFileType{"Land", "Land.dat", "", "terrain (data\\database)", &ResaveVector<cLand>},
+    cRecordFileType{"PartyVal", "PartyVal.dat", "", "party variables (data\\database)", &ResaveVector<cPtVal>},
+    cRecordFileType{"Picture", "Picture.dat", "", "pictures (data\\database)", &ResaveVector<cEdPicture>},
+    cRecordFileType{"Skill", "Skill.dat", "", "skill lists with their skills (data\\database)",
+                    &ResaveVector<cSkillList>},
+    cRecordFileType{"Sound", "Sound.dat", "", "sound effects (data\\database)", &ResaveVector<cEdSound>},
+    cRecordFileType{"System", "System.dat", "", "game-wide settings and terms (data\\database)",
+                    &ResaveRecord<cSystem>},
     cRecordFileType{"EditConfig", "EditConfig.dat", "", "the editor's own settings and window places (e_data)",
                     &ResaveRecord<cEditConfig>},
     cRecordFileType{"SheetSize", "SheetSize.dat", "", "property sheet scale of this machine (e_data)",

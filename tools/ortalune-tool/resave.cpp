@@ -31,8 +31,6 @@ class cQuietPrompt : public cHeadlessPrompt {
 // with the tables of the project in the current directory, when there is one. A project
 // that does not load would make the clamps cut references: refuse rather than lose data.
 bool LoadTablesOfCurrentProject() {
-  std::error_code ec;
-  if (!fs::is_directory(NativePathOf("data"), ec)) return true;
   cQuietPrompt quiet;
   cPrompt* previous = SetPrompt(&quiet);
   LoadEditConfig(g_EditConfig, false);
@@ -81,7 +79,14 @@ int RunResave(std::span<const std::string> args) {
     return kToolUsage;
   }
 
-  if (withProject && !LoadTablesOfCurrentProject()) return kToolFailed;
+  std::error_code ec;
+  if (withProject && fs::is_directory(NativePathOf("data"), ec)) {
+    if (!LoadTablesOfCurrentProject()) return kToolFailed;
+  } else {
+    std::fprintf(stderr,
+                 "resave: no project tables loaded: references into other tables are checked against empty\n"
+                 "        tables and may be reset; run from the project's directory to keep them\n");
+  }
   cResaveResult result = type->resave(in, out);
   if (g_bRunEnding) {
     std::fprintf(stderr, "resave: %s: stopped by an internal error (see Report_Editor.txt); nothing trustworthy was written\n",

@@ -1,0 +1,102 @@
+#include "project/project_files.h"
+
+#include <array>
+
+#include "kernel/record_vector_file.h"
+#include "project/project_globals.h"
+#include "project/project_load.h"
+
+namespace {
+
+template <auto Member>
+int LoadList(const char* path) {
+  return LoadVector(g_Database.*Member, path);
+}
+
+template <auto Member>
+int SaveList(const char* path) {
+  return SaveVector(g_Database.*Member, path);
+}
+
+template <auto Member>
+constexpr cProjectFile DatabaseList(const char* path) {
+  return {path, &LoadList<Member>, &SaveList<Member>};
+}
+
+template <auto& Record>
+int LoadRecordFile(const char* path) {
+  return Record.LoadFile(path);
+}
+
+template <auto& Record>
+int SaveRecordFile(const char* path) {
+  return Record.SaveFile(path);
+}
+
+template <auto& Vector>
+int LoadVectorFile(const char* path) {
+  return LoadVector(Vector, path);
+}
+
+template <auto& Vector>
+int SaveVectorFile(const char* path) {
+  return SaveVector(Vector, path);
+}
+
+constexpr int kFirstVersionWithHelp = 212;
+
+int SaveAll(std::initializer_list<const cProjectFile*> files) {
+  int allWritten = 1;
+  for (const cProjectFile* file : files) {
+    if (!file->save(file->path)) allWritten = 0;
+  }
+  return allWritten;
+}
+
+}  // namespace
+
+const cProjectFile kCompatiTypeFile = DatabaseList<&cDatabase::m_vecCompatiType>("data\\database\\CompatiType.dat");
+const cProjectFile kPartyValFile = DatabaseList<&cDatabase::m_vecPtVal>("data\\database\\PartyVal.dat");
+const cProjectFile kCharaAnimFile = DatabaseList<&cDatabase::m_vecCharaAnimPat>("data\\database\\CharaAnim.dat");
+const cProjectFile kEffectAnimFile = DatabaseList<&cDatabase::m_vecEffectAnimPat>("data\\database\\EffectAnim.dat");
+const cProjectFile kPictureFile = DatabaseList<&cDatabase::m_vecPicture>("data\\database\\Picture.dat");
+const cProjectFile kBackFile = DatabaseList<&cDatabase::m_vecBack>("data\\database\\Back.dat");
+const cProjectFile kSoundFile = DatabaseList<&cDatabase::m_vecSound>("data\\database\\Sound.dat");
+const cProjectFile kBgmFile = DatabaseList<&cDatabase::m_vecBgm>("data\\database\\Bgm.dat");
+const cProjectFile kHelpFile = DatabaseList<&cDatabase::m_vecHelp>("data\\database\\Help.dat");
+const cProjectFile kSystemFile = {"data\\database\\System.dat", &LoadRecordFile<g_System>, &SaveRecordFile<g_System>};
+const cProjectFile kLandFile = {"data\\database\\Land.dat", &LoadVectorFile<g_vecLand>, &SaveVectorFile<g_vecLand>};
+const cProjectFile kSkillFile = {"data\\database\\Skill.dat", &LoadVectorFile<g_vecSkillList>,
+                                 &SaveVectorFile<g_vecSkillList>};
+
+void RepairSkills() {
+  for (cSkillList& list : g_vecSkillList) {
+    for (cSkill& skill : list.m_vecSkill) skill.FixRefs();
+  }
+}
+
+int LoadDatabase() {
+  for (const cProjectFile* file : {&kCompatiTypeFile, &kPartyValFile, &kCharaAnimFile, &kEffectAnimFile, &kPictureFile,
+                                   &kBackFile, &kSoundFile, &kBgmFile, &kHelpFile}) {
+    if (file == &kHelpFile && g_nFileVersion < kFirstVersionWithHelp) continue;
+    if (!file->load(file->path)) {
+      ReportLoadFailure(file->path);
+      return 0;
+    }
+  }
+  RepairSkills();
+  return 1;
+}
+
+int SaveDatabase() {
+  RepairSkills();
+  return SaveAll({&kCompatiTypeFile, &kPartyValFile, &kPictureFile, &kBackFile, &kCharaAnimFile, &kEffectAnimFile,
+                  &kSoundFile, &kBgmFile, &kHelpFile});
+}
+
+int SaveAllDatabaseFiles() {
+  int lists = SaveDatabase();
+  // Classes, allies and enemies are written before these, the world map after them.
+  int rest = SaveAll({&kLandFile, &kSkillFile, &kSystemFile});
+  return lists && rest;
+}

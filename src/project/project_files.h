@@ -1,0 +1,39 @@
+#pragma once
+// The record files of a project, each bound to the global object it fills, and the
+// saves of the database. The load order lives in project_load.cpp.
+
+struct cProjectFile {
+  const char* path;                 // stored path
+  int (*load)(const char* path);    // 1 when read whole
+  int (*save)(const char* path);    // 1 when written whole
+};
+
+extern const cProjectFile kCompatiTypeFile;
+extern const cProjectFile kPartyValFile;
+extern const cProjectFile kCharaAnimFile;
+extern const cProjectFile kEffectAnimFile;
+extern const cProjectFile kPictureFile;
+extern const cProjectFile kBackFile;
+extern const cProjectFile kSoundFile;
+extern const cProjectFile kBgmFile;
+extern const cProjectFile kHelpFile;
+extern const cProjectFile kSystemFile;
+extern const cProjectFile kLandFile;
+extern const cProjectFile kSkillFile;
+
+// The nine lists of g_Database in their load order, failing on the first that does not
+// load (after its message). Help is read only from projects of version 212 on, judged
+// by the file read just before it; older ones keep an empty list. Every skill is then
+// repaired against the lists.
+int LoadDatabase();
+
+// The skill repair, then the nine lists in their save order. A file that cannot be
+// written is skipped and the others are still tried; 0 when any was skipped.
+int SaveDatabase();
+
+// What applying the database sheet writes: the lists, then the other tables of the
+// rule set. 0 when any file was skipped.
+int SaveAllDatabaseFiles();
+
+// Every skill of every list gets its references repaired.
+void RepairSkills();

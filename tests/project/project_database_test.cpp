@@ -1,0 +1,104 @@
+// The database files of a project: the order they load in, what stops the load, and
+// what the saves write.
+
+#include "project/project_files.h"
+
+#include "platform/cp932.h"
+#include "project/project_globals.h"
+#include "project/project_load.h"
+#include "support/test_env.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const char* const kDatabaseFiles[] = {"CompatiType.dat", "PartyVal.dat", "CharaAnim.dat", "EffectAnim.dat",
+                                      "Picture.dat",     "Back.dat",     "Sound.dat",     "Bgm.dat",
+                                      "Help.dat",        "System.dat",   "Land.dat",      "Skill.dat"};
+
+void SetVersion(const std::string& path, std::uint32_t version) {
+  std::vector<unsigned char> bytes = FileBytes(path);
+  for (int i = 0; i < 4; ++i) bytes[static_cast<std::size_t>(i)] = static_cast<unsigned char>(version >> (8 * i));
+  WriteBytes(path, bytes);
+}
+
+class ProjectDatabaseTest : public ProjectDirTest {
+ protected:
+  void SetUp() override {
+    ProjectDirTest::SetUp();
+    ResetGlobals();
+    fs::create_directories("data/database");
+    fs::create_directories("e_data");
+    ASSERT_EQ(SaveAllDatabaseFiles(), 1);
+  }
+  void TearDown() override {
+    ResetGlobals();
+    ProjectDirTest::TearDown();
+  }
+  static void ResetGlobals() {
+    g_Database = cDatabase();
+    g_System = cSystem();
+    g_vecLand.clear();
+    g_vecSkillList.clear();
+  }
+};
+
+}  // namespace
+
+TEST_F(ProjectDatabaseTest, SavedFilesLoadBackAndNumbersComeFromPositions) {
+  for (const char* name : kDatabaseFiles) EXPECT_TRUE(fs::exists(fs::path("data/database") / name)) << name;
+  g_vecSkillList.resize(2);
+  g_vecSkillList[1].m_nID = 9;
+  g_vecSkillList[1].m_vecSkill[1].m_nID = 9;
+  ASSERT_EQ(SaveAllDatabaseFiles(), 1);
+  g_vecSkillList.clear();
+
+  ASSERT_EQ(LoadProjectRecords(), 1);
+  EXPECT_TRUE(m_prompt.shown.empty());
+  ASSERT_EQ(g_vecSkillList.size(), 2u);
+  EXPECT_EQ(g_vecSkillList[1].m_nID, 1);
+  EXPECT_EQ(g_vecSkillList[1].m_vecSkill[1].m_nID, 1);
+}
+
+TEST_F(ProjectDatabaseTest, AMissingFileStopsTheLoadAndNamesTheDefaultFolder) {
+  fs::remove("data/database/Sound.dat");
+  EXPECT_EQ(LoadProjectRecords(), 0);
+  ASSERT_EQ(m_prompt.shown.size(), 1u);
+  EXPECT_EQ(m_prompt.shown[0].text,
+            CP932_TEXT("data\\database\\Sound.dat の読み込みに失敗しました！\nこのファイルが存在しない場合は「default」フォルダから「data」フォルダへ同名のファイルをコピーして下さい。"));
+}
+
+TEST_F(ProjectDatabaseTest, AFileOfANewerVersionStopsTheLoadWithTheVersionText) {
+  SetVersion("data/database/Land.dat", 291);
+  EXPECT_EQ(LoadProjectRecords(), 0);
+  ASSERT_EQ(m_prompt.shown.size(), 1u);
+  EXPECT_EQ(m_prompt.shown[0].text,
+            CP932_TEXT("data\\database\\Land.dat の読み込みに失敗しました！\n実行ファイル(.exe)より上位のバージョンのファイルは使用できません。"));
+  EXPECT_EQ(g_bFileTooNew, 1);
+}
+
+TEST_F(ProjectDatabaseTest, HelpIsReadOnlyFromProjectsThatHaveIt) {
+  // An empty music list reads the same at any version; the file read just before
+  // Help decides whether Help is read.
+  g_Database.m_vecBgm.clear();
+  ASSERT_EQ(SaveDatabase(), 1);
+  fs::remove("data/database/Help.dat");
+  SetVersion("data/database/Bgm.dat", 211);
+  g_Database.m_vecHelp.resize(3);
+  EXPECT_EQ(LoadDatabase(), 1);
+  EXPECT_EQ(g_Database.m_vecHelp.size(), 3u);  // nothing read: the list stays as it was
+
+  SetVersion("data/database/Bgm.dat", 212);
+  EXPECT_EQ(LoadDatabase(), 0);
+  ASSERT_EQ(m_prompt.shown.size(), 1u);
+  EXPECT_NE(m_prompt.shown[0].text.find("Help.dat"), std::string::npos);
+}
+
+TEST_F(ProjectDatabaseTest, AFileThatCannotBeWrittenDoesNotStopTheOthers) {
+  fs::remove("data/database/Back.dat");
+  fs::create_directory("data/database/Back.dat");  // in the way of the save
+  fs::remove("data/database/Help.dat");
+  EXPECT_EQ(SaveDatabase(), 0);
+  EXPECT_TRUE(fs::exists("data/database/Help.dat"));  // written after the one that failed
+  EXPECT_TRUE(fs::is_directory("data/database/Back.dat"));
+}
