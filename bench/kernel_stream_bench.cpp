@@ -4,9 +4,10 @@
 
 #include <benchmark/benchmark.h>
 
+#include "ratio_reporter.h"
+
 #include <cstdio>
 #include <fcntl.h>
-#include <map>
 #include <string>
 #include <unistd.h>
 
@@ -173,22 +174,6 @@ BENCHMARK(BM_Write_PlainBytes)->Unit(benchmark::kMillisecond)->MinTime(1.0);
 BENCHMARK(BM_Read_Ours)->Unit(benchmark::kMillisecond)->MinTime(1.0);
 BENCHMARK(BM_Read_NaiveSyscallPerField)->Unit(benchmark::kMillisecond)->MinTime(1.0);
 BENCHMARK(BM_Read_PlainBytes)->Unit(benchmark::kMillisecond)->MinTime(1.0);
-
-// Keeps the time of each run so that the ratios can be printed at the end.
-class cRatioReporter : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) m_times[run.benchmark_name()] = run.GetAdjustedRealTime();
-    ConsoleReporter::ReportRuns(runs);
-  }
-  double Time(const std::string& name) const {
-    auto it = m_times.find(name);
-    return it == m_times.end() ? 0 : it->second;
-  }
-
- private:
-  std::map<std::string, double> m_times;
-};
 
 }  // namespace
 

@@ -3,13 +3,14 @@
 // libpng alone, with the same transforms, into plain buffers, measured in the same run.
 
 #include <benchmark/benchmark.h>
+
+#include "ratio_reporter.h"
 #include <png.h>
 
 #include <csetjmp>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <map>
 #include <string>
 #include <unistd.h>
 #include <vector>
@@ -196,22 +197,6 @@ void BM_SheetFiles_LibpngAlone(benchmark::State& state) {
 BENCHMARK(BM_Sheets_Ours)->Unit(benchmark::kMillisecond)->MinTime(2.0);
 BENCHMARK(BM_SheetFiles_Ours)->Unit(benchmark::kMillisecond)->MinTime(2.0);
 BENCHMARK(BM_SheetFiles_LibpngAlone)->Unit(benchmark::kMillisecond)->MinTime(2.0);
-
-// Keeps the time of each run so that the ratios can be printed at the end.
-class cRatioReporter : public benchmark::ConsoleReporter {
- public:
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) m_times[run.benchmark_name()] = run.GetAdjustedRealTime();
-    ConsoleReporter::ReportRuns(runs);
-  }
-  double Time(const std::string& name) const {
-    auto it = m_times.find(name);
-    return it == m_times.end() ? 0 : it->second;
-  }
-
- private:
-  std::map<std::string, double> m_times;
-};
 
 }  // namespace
 

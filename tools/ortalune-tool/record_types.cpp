@@ -42,52 +42,63 @@ cResaveResult Saved(const fs::path& in, const fs::path& out, std::uint32_t fromV
 
 cResaveResult SaveFailed(const fs::path& out) { return {false, Describe(out) + ": cannot be written"}; }
 
+// Reading and writing a file that holds one record, or a vector of records.
 template <class T>
-cResaveResult ResaveRecord(const fs::path& in, const fs::path& out) {
-  T record;
+struct cFileIo {
+  static int Load(T& record, const fs::path& path) { return record.LoadFile(path); }
+  static int Save(T& record, const fs::path& path) { return record.SaveFile(path); }
+};
+
+template <class T>
+struct cFileIo<VECTOR_CLASS<T>> {
+  static int Load(VECTOR_CLASS<T>& records, const fs::path& path) { return LoadVector(records, path); }
+  static int Save(VECTOR_CLASS<T>& records, const fs::path& path) {
+    // Compatibility rules refer to their own table: the file being written is that table.
+    if constexpr (std::is_same_v<T, cCompatiType>) g_Database.m_vecCompatiType = records;
+    return SaveVector(records, path);
+  }
+};
+
+// Reads into a freshly constructed holder and writes it at the current version.
+template <class Holder>
+cResaveResult Resave(const fs::path& in, const fs::path& out) {
+  Holder holder;
   g_strLastSerialFailure.clear();
-  if (!record.LoadFile(in)) return {false, LoadFailureText(in)};
+  if (!cFileIo<Holder>::Load(holder, in)) return {false, LoadFailureText(in)};
   std::uint32_t fromVersion = g_nFileVersion;
-  if (!record.SaveFile(out)) return SaveFailed(out);
+  if (!cFileIo<Holder>::Save(holder, out)) return SaveFailed(out);
   return Saved(in, out, fromVersion);
 }
 
 template <class T>
-cResaveResult ResaveVector(const fs::path& in, const fs::path& out) {
-  VECTOR_CLASS<T> records;
-  g_strLastSerialFailure.clear();
-  if (!LoadVector(records, in)) return {false, LoadFailureText(in)};
-  std::uint32_t fromVersion = g_nFileVersion;
-  // Compatibility rules refer to their own table: the file being written is that table.
-  if constexpr (std::is_same_v<T, cCompatiType>) g_Database.m_vecCompatiType = records;
-  if (!SaveVector(records, out)) return SaveFailed(out);
-  return Saved(in, out, fromVersion);
-}
+constexpr auto ResaveRecord = &Resave<T>;
+template <class T>
+constexpr auto ResaveVector = &Resave<VECTOR_CLASS<T>>;
 
 // Later record classes join by adding a row.
 const std::array kRecordFileTypes = {
-    cRecordFileType{"Back", "Back.dat", "", "backgrounds (data\\database)", &ResaveVector<cEdBack>},
-    cRecordFileType{"Bgm", "Bgm.dat", "", "music (data\\database)", &ResaveVector<cEdBgm>},
+    cRecordFileType{"Back", "Back.dat", "", "backgrounds (data\\database)", ResaveVector<cEdBack>},
+    cRecordFileType{"Bgm", "Bgm.dat", "", "music (data\\database)", ResaveVector<cEdBgm>},
     cRecordFileType{"CharaAnim", "CharaAnim.dat", "", "character animations (data\\database)",
-                    &ResaveVector<cCharaAnimPat>},
+                    ResaveVector<cCharaAnimPat>},
     cRecordFileType{"CompatiType", "CompatiType.dat", "", "compatibility types (data\\database)",
-                    &ResaveVector<cCompatiType>},
+                    ResaveVector<cCompatiType>},
     cRecordFileType{"EffectAnim", "EffectAnim.dat", "", "effect animations (data\\database)",
-                    &ResaveVector<cEffectAnimPat>},
-    cRecordFileType{"Help", "Help.dat", "", "help topics (data\\database)", &ResaveVector<cEdHelp>},
-    cRecordFileType{"Land", "Land.dat", "", "terrain (data\\database)", &ResaveVector<cLand>},
-    cRecordFileType{"PartyVal", "PartyVal.dat", "", "party variables (data\\database)", &ResaveVector<cPtVal>},
-    cRecordFileType{"Picture", "Picture.dat", "", "pictures (data\\database)", &ResaveVector<cEdPicture>},
+                    ResaveVector<cEffectAnimPat>},
+    cRecordFileType{"Help", "Help.dat", "", "help topics (data\\database)", ResaveVector<cEdHelp>},
+    cRecordFileType{"Land", "Land.dat", "", "terrain (data\\database)", ResaveVector<cLand>},
+    cRecordFileType{"PartyVal", "PartyVal.dat", "", "party variables (data\\database)", ResaveVector<cPtVal>},
+    cRecordFileType{"Picture", "Picture.dat", "", "pictures (data\\database)", ResaveVector<cEdPicture>},
     cRecordFileType{"Skill", "Skill.dat", "", "skill lists with their skills (data\\database)",
-                    &ResaveVector<cSkillList>},
-    cRecordFileType{"Sound", "Sound.dat", "", "sound effects (data\\database)", &ResaveVector<cEdSound>},
+                    ResaveVector<cSkillList>},
+    cRecordFileType{"Sound", "Sound.dat", "", "sound effects (data\\database)", ResaveVector<cEdSound>},
     cRecordFileType{"System", "System.dat", "", "game-wide settings and terms (data\\database)",
-                    &ResaveRecord<cSystem>},
+                    ResaveRecord<cSystem>},
     cRecordFileType{"EditConfig", "EditConfig.dat", "", "the editor's own settings and window places (e_data)",
-                    &ResaveRecord<cEditConfig>},
+                    ResaveRecord<cEditConfig>},
     cRecordFileType{"SheetSize", "SheetSize.dat", "", "property sheet scale of this machine (e_data)",
-                    &ResaveRecord<cPropSheetSize>},
-    cRecordFileType{"Testplay", "Testplay.dat", "", "test play settings (e_data)", &ResaveRecord<cTestPlay>},
+                    ResaveRecord<cPropSheetSize>},
+    cRecordFileType{"Testplay", "Testplay.dat", "", "test play settings (e_data)", ResaveRecord<cTestPlay>},
 };
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {
