@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "database/label_table.h"
+#include "database/table_rows.h"
 #include "kernel/serial_fields.h"
 #include "platform/cp932.h"
 #include "project/project_globals.h"
@@ -53,7 +54,7 @@ int cCompatiType::Save(cSerialFile* file) {
   return cSerial::Save(file);
 }
 
-void cCompatiType::FixRefs() { FixRefs(g_Database.m_vecCompatiType.Count()); }
+void cCompatiType::FixRefs() { FixRefs(CompatiTypeRows()); }
 
 void cCompatiType::FixRefs(int rows) {
   std::erase_if(m_vecInfl, [rows](const cInfl& infl) { return infl.m_nTarget < 0 || infl.m_nTarget >= rows; });

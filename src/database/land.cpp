@@ -1,14 +1,7 @@
 #include "database/land.h"
 
+#include "database/table_rows.h"
 #include "kernel/serial_fields.h"
-#include "project/project_globals.h"
-
-namespace {
-
-int ElementRows() { return g_System.m_vecElem.Count(); }
-int BackRows() { return g_Database.m_vecBack.Count(); }
-
-}  // namespace
 
 int cLand::Serialize(int op, const cSerial* other, cSerialFile* file, std::uint32_t version) {
   const auto* o = SerialOther<cLand>(other);

@@ -1,10 +1,7 @@
 #include "database/skill.h"
 
 #include "kernel/serial_fields.h"
-#include "project/project_globals.h"
-
-int CompatiTypeCount() { return static_cast<int>(g_Database.m_vecCompatiType.size()); }
-int ElementCount() { return static_cast<int>(g_System.m_vecElem.size()); }
+#include "database/table_rows.h"
 
 void cSkill::SetDefault() {
   Reset();
@@ -25,8 +22,8 @@ void cSkill::SetDefault() {
 }
 
 void cSkill::FixRefs() {
-  if (m_nCompatiType >= CompatiTypeCount()) m_nCompatiType = 0;
-  if (m_nElem >= ElementCount()) m_nElem = 0;
+  if (m_nCompatiType >= CompatiTypeRows()) m_nCompatiType = 0;
+  if (m_nElem >= ElementRows()) m_nElem = 0;
 }
 
 int cSkill::Serialize(int op, const cSerial* other, cSerialFile* file, std::uint32_t version) {

@@ -103,7 +103,3 @@ class cSkill : public cSerial {
   int m_nSound;
   std::string m_strReserved;
 };
-
-// Row counts of the tables a skill refers to, read from the project's globals now.
-int CompatiTypeCount();
-int ElementCount();

@@ -13,4 +13,5 @@ target_sources(ortalune_core PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/skill_acquisition.cpp
   ${CMAKE_CURRENT_LIST_DIR}/skill_kind_rules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/skill_list.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/table_rows.cpp
 )

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "database/table_rows.h"
 #include "kernel/serial_fields.h"
 #include "project/project_globals.h"
 
@@ -152,7 +153,7 @@ int cSystem::Save(cSerialFile* file) {
 
 void cSystem::Clamp() {
   ClampDerived();
-  if (m_nPartyBack >= g_Database.m_vecBack.Count()) m_nPartyBack = 1;
+  if (m_nPartyBack >= BackRows()) m_nPartyBack = 1;
   const int musicRows = g_Database.m_vecBgm.Count();
   for (std::int32_t& bgm : m_vecBgm) {
     if (bgm >= musicRows) bgm = 0;
