@@ -183,3 +183,32 @@ int SerialRecordVector(int op, VECTOR_CLASS<T>& f, const VECTOR_CLASS<std::type_
     default: return 1;
   }
 }
+
+// A vector of record vectors: the outer count, then each inner vector as above.
+template <class T>
+int SerialRecordVectorVector(int op, VECTOR_CLASS<VECTOR_CLASS<T>>& f,
+                             const VECTOR_CLASS<VECTOR_CLASS<std::type_identity_t<T>>>* o, cSerialFile* file) {
+  switch (op) {
+    case SERIAL_INIT: f.clear(); return 1;
+    case SERIAL_READ: {
+      std::uint32_t n = 0;
+      if (!serial_detail::ReadCount(file, sizeof(std::uint32_t), n)) return 0;
+      f.clear();
+      f.resize(n);
+      break;
+    }
+    case SERIAL_WRITE: serial_detail::WriteCount(file, f.size()); break;
+    case SERIAL_COPY:
+      if (o == nullptr) return 1;
+      f.resize(o->size());
+      break;
+    case SERIAL_COMPARE:
+      if (o != nullptr && f.size() != o->size()) return 0;
+      break;
+    default: break;
+  }
+  for (std::size_t i = 0; i < f.size(); ++i) {
+    if (!SerialRecordVector<T>(op, f[i], o != nullptr ? &(*o)[i] : nullptr, file)) return 0;
+  }
+  return 1;
+}
