@@ -1,0 +1,3 @@
+#include "stage/edit_state.h"
+
+cEditState g_EditState;
