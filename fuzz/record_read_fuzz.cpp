@@ -7,14 +7,20 @@
 #include "app/prop_sheet_size.h"
 #include "app/test_play_settings.h"
 #include "database/anim.h"
+#include "database/battle_ai.h"
+#include "database/chara_kinds.h"
 #include "database/compati_type.h"
 #include "database/help.h"
 #include "database/land.h"
 #include "database/media_tables.h"
+#include "database/move_ai.h"
 #include "database/skill_list.h"
+#include "event/stored_events.h"
 #include "kernel/record_vector_file.h"
 #include "kernel/test_records.h"
 #include "project/system.h"
+#include "stage/stage.h"
+#include "stage/world_map.h"
 
 namespace {
 
@@ -63,6 +69,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CheckRecord<cSystem>(input);
   CheckVector<cSkillList>(input);
   CheckVector<cLand>(input);
+  CheckVector<cClass>(input);
+  CheckVector<cFriend>(input);
+  CheckVector<cEnemy>(input);
   CheckVector<cCompatiType>(input);
   CheckVector<cPtVal>(input);
   CheckVector<cCharaAnimPat>(input);
@@ -72,5 +81,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CheckVector<cEdSound>(input);
   CheckVector<cEdBgm>(input);
   CheckVector<cEdHelp>(input);
+  CheckVector<cMoveAITemplate>(input);
+  CheckRecord<cMoveAI>(input);
+  CheckRecord<cBattleAI>(input);
+  // The stored event files.
+  CheckVector<cGValInfo>(input);
+  CheckVector<cEvent>(input);
+  CheckVector<cEventActPlt>(input);
+  CheckRecord<cEvent>(input);
+  // The stage and the world map.
+  CheckRecord<cStage>(input);
+  CheckRecord<cWorldMap>(input);
   return 0;
 }

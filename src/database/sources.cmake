@@ -2,16 +2,34 @@ target_sources(ortalune_core PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/elem.cpp
   ${CMAKE_CURRENT_LIST_DIR}/anim.cpp
   ${CMAKE_CURRENT_LIST_DIR}/anim_player.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ai_labels.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ai_summary.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/battle_ai.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/chara_class.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/chara.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/chara_growth.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/chara_kinds.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/chara_preview.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/chara_random.cpp
   ${CMAKE_CURRENT_LIST_DIR}/compati_type.cpp
   ${CMAKE_CURRENT_LIST_DIR}/database.cpp
   ${CMAKE_CURRENT_LIST_DIR}/help.cpp
   ${CMAKE_CURRENT_LIST_DIR}/label_table.cpp
   ${CMAKE_CURRENT_LIST_DIR}/land.cpp
   ${CMAKE_CURRENT_LIST_DIR}/media_tables.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/move_ai.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/random_names.cpp
   ${CMAKE_CURRENT_LIST_DIR}/world_chip.cpp
   ${CMAKE_CURRENT_LIST_DIR}/skill.cpp
   ${CMAKE_CURRENT_LIST_DIR}/skill_acquisition.cpp
   ${CMAKE_CURRENT_LIST_DIR}/skill_kind_rules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/skill_list.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/csv_text.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/csv_file.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/csv_numbers.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/skill_csv_columns.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/skill_csv_write.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/skill_csv_read.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/skill_csv_exchange.cpp
   ${CMAKE_CURRENT_LIST_DIR}/table_rows.cpp
 )

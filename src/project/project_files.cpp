@@ -5,6 +5,7 @@
 #include "kernel/record_vector_file.h"
 #include "project/project_globals.h"
 #include "project/project_load.h"
+#include "project/project_tree.h"
 
 namespace {
 
@@ -68,6 +69,23 @@ const cProjectFile kSystemFile = {"data\\database\\System.dat", &LoadRecordFile<
 const cProjectFile kLandFile = {"data\\database\\Land.dat", &LoadVectorFile<g_vecLand>, &SaveVectorFile<g_vecLand>};
 const cProjectFile kSkillFile = {"data\\database\\Skill.dat", &LoadVectorFile<g_vecSkillList>,
                                  &SaveVectorFile<g_vecSkillList>};
+const cProjectFile kClassFile = {kClassPath, &LoadVectorFile<g_vecClass>, &SaveVectorFile<g_vecClass>};
+const cProjectFile kFriendFile = {kFriendPath, &LoadVectorFile<g_vecFriend>, &SaveVectorFile<g_vecFriend>};
+const cProjectFile kEnemyFile = {kEnemyPath, &LoadVectorFile<g_vecEnemy>, &SaveVectorFile<g_vecEnemy>};
+const cProjectFile kMoveAITemplateFile = {"data\\MoveAITemplate.dat", &LoadVectorFile<g_vecMoveAITemplate>,
+                                          &SaveVectorFile<g_vecMoveAITemplate>};
+const cProjectFile kGValInfoFile = {kGValInfoPath,
+                                    [](const char* path) {
+                                      if (!LoadVector(g_vecGValInfo, path)) return 0;
+                                      FitCommonVarNames(g_vecGValInfo);
+                                      return 1;
+                                    },
+                                    &SaveVectorFile<g_vecGValInfo>};
+const cProjectFile kEventPltFile = {kEventPltPath, &LoadVectorFile<g_vecEventPlt>, &SaveVectorFile<g_vecEventPlt>};
+const cProjectFile kEventActPltFile = {kEventActPltPath, &LoadVectorFile<g_vecEventActPlt>,
+                                       &SaveVectorFile<g_vecEventActPlt>};
+const cProjectFile kStartEventFile = {kStartEventPath, &LoadRecordFile<g_StartEvent>, &SaveRecordFile<g_StartEvent>};
+const cProjectFile kWorldMapFile = {kWorldMapPath, &LoadRecordFile<g_WorldMap>, &SaveRecordFile<g_WorldMap>};
 
 void RepairSkills() {
   for (cSkillList& list : g_vecSkillList) {
@@ -96,7 +114,14 @@ int SaveDatabase() {
 
 int SaveAllDatabaseFiles() {
   int lists = SaveDatabase();
-  // Classes, allies and enemies are written before these, the world map after them.
-  int rest = SaveAll({&kLandFile, &kSkillFile, &kSystemFile});
+  int rest = SaveAll({&kClassFile, &kFriendFile, &kEnemyFile, &kLandFile, &kSkillFile, &kSystemFile, &kWorldMapFile});
   return lists && rest;
+}
+
+int SaveProjectRecords() {
+  CreateProjectDirectories();
+  int database = SaveAllDatabaseFiles();
+  int rest = SaveAll({&kMoveAITemplateFile, &kGValInfoFile, &kEventPltFile, &kEventActPltFile, &kStartEventFile});
+  int stage = g_Stage.SaveFile(g_EditConfig.m_strDefaultStage.c_str());
+  return database && rest && stage;
 }

@@ -20,6 +20,15 @@ extern const cProjectFile kHelpFile;
 extern const cProjectFile kSystemFile;
 extern const cProjectFile kLandFile;
 extern const cProjectFile kSkillFile;
+extern const cProjectFile kClassFile;
+extern const cProjectFile kFriendFile;
+extern const cProjectFile kEnemyFile;
+extern const cProjectFile kMoveAITemplateFile;
+extern const cProjectFile kGValInfoFile;     // resized to 1000 names once read
+extern const cProjectFile kEventPltFile;
+extern const cProjectFile kEventActPltFile;
+extern const cProjectFile kStartEventFile;
+extern const cProjectFile kWorldMapFile;
 
 // The nine lists of g_Database in their load order, failing on the first that does not
 // load (after its message). Help is read only from projects of version 212 on, judged
@@ -37,3 +46,8 @@ int SaveAllDatabaseFiles();
 
 // Every skill of every list gets its references repaired.
 void RepairSkills();
+
+// Every record file of the project from the globals as they stand, the default stage
+// included, into the directories CreateProjectDirectories makes. What a new project is
+// written with; 0 when any file was skipped.
+int SaveProjectRecords();

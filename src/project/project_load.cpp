@@ -8,6 +8,7 @@
 #include "project/project_files.h"
 #include "project/project_globals.h"
 #include "project/sheets.h"
+#include "stage/stage_open.h"
 
 namespace {
 
@@ -41,17 +42,40 @@ int LoadSheetsStep(const char*) {
   return 1;
 }
 
-// Records join this table as they are built, at their place in the order.
+// The default stage is only a starting content; a project may lack it.
+int LoadDefaultStageStep(const char*) { return LoadDefaultStage(); }
+
+// A missing palette is no error: one default event stands in for it.
+void FallBackOnEventPalette(int loaded) {
+  if (!loaded) UseFallbackEventPalette(g_vecEventPlt);
+}
+
+int EndWithNoStageOpen(const char*) {
+  ResetStageOpenState();
+  return 1;
+}
+
 const cProjectFile kTestPlayFile = {kTestPlayPath, [](const char* p) { return g_TestPlay.LoadFile(p); }, nullptr};
 
 const std::array kLoadSteps = {
+    FileStep(kGValInfoFile, kFailStops),
     cLoadStep{nullptr, &LoadDatabaseStep, kFailStops, nullptr},
     FileStep(kSystemFile, kFailStops),
     FileStep(kTestPlayFile, kFailIgnored, &MigrateTestPlay),
     cLoadStep{nullptr, &PassKeyColour, kFailStops, nullptr},
     FileStep(kLandFile, kFailStops),
     FileStep(kSkillFile, kFailStops, &NumberSkillListsAfterLoad),
+    FileStep(kClassFile, kFailStops),
+    FileStep(kFriendFile, kFailStops),
+    FileStep(kEnemyFile, kFailStops),
+    cLoadStep{nullptr, &LoadDefaultStageStep, kFailIgnored, nullptr},
+    FileStep(kMoveAITemplateFile, kFailStops),
+    FileStep(kEventPltFile, kFailIgnored, &FallBackOnEventPalette),
+    FileStep(kEventActPltFile, kFailStops),
+    FileStep(kWorldMapFile, kFailStops),
+    FileStep(kStartEventFile, kFailStops),
     cLoadStep{nullptr, &LoadSheetsStep, kFailStops, nullptr, true},
+    cLoadStep{nullptr, &EndWithNoStageOpen, kFailStops, nullptr},
 };
 
 int RunLoadSteps(bool bWithImages) {

@@ -69,7 +69,7 @@ std::span<const SHEET_DESC> SheetDescriptors() {
   return descriptors;
 }
 
-std::string WorldBackImagePath() { return {}; }
+std::string WorldBackImagePath() { return g_WorldMap.m_strBackImage; }
 
 int LoadSheets() {
   auto descriptors = SheetDescriptors();

@@ -4,6 +4,7 @@
 #include "project/project_files.h"
 
 #include "platform/cp932.h"
+#include "platform/stored_path.h"
 #include "project/project_globals.h"
 #include "project/project_load.h"
 #include "support/test_env.h"
@@ -11,10 +12,6 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-const char* const kDatabaseFiles[] = {"CompatiType.dat", "PartyVal.dat", "CharaAnim.dat", "EffectAnim.dat",
-                                      "Picture.dat",     "Back.dat",     "Sound.dat",     "Bgm.dat",
-                                      "Help.dat",        "System.dat",   "Land.dat",      "Skill.dat"};
 
 void SetVersion(const std::string& path, std::uint32_t version) {
   std::vector<unsigned char> bytes = FileBytes(path);
@@ -26,27 +23,32 @@ class ProjectDatabaseTest : public ProjectDirTest {
  protected:
   void SetUp() override {
     ProjectDirTest::SetUp();
-    ResetGlobals();
-    fs::create_directories("data/database");
-    fs::create_directories("e_data");
-    ASSERT_EQ(SaveAllDatabaseFiles(), 1);
+    ResetProjectGlobals();
+    ASSERT_EQ(SaveProjectRecords(), 1);
   }
   void TearDown() override {
-    ResetGlobals();
+    ResetProjectGlobals();
     ProjectDirTest::TearDown();
   }
-  static void ResetGlobals() {
-    g_Database = cDatabase();
-    g_System = cSystem();
-    g_vecLand.clear();
-    g_vecSkillList.clear();
+
+  // Every file whose failure stops the load, with its native path.
+  static std::vector<std::pair<std::string, fs::path>> StoppingFiles() {
+    std::vector<std::pair<std::string, fs::path>> files;
+    for (const cLoadStep& step : ProjectLoadSteps()) {
+      if (step.path != nullptr && step.failRule == kFailStops) files.emplace_back(step.path, NativePathOf(step.path));
+    }
+    for (const char* name : {"CompatiType.dat", "PartyVal.dat", "CharaAnim.dat", "EffectAnim.dat", "Picture.dat",
+                             "Back.dat", "Sound.dat", "Bgm.dat", "Help.dat"}) {
+      files.emplace_back(std::string("data\\database\\") + name, fs::path("data/database") / name);
+    }
+    return files;
   }
 };
 
 }  // namespace
 
 TEST_F(ProjectDatabaseTest, SavedFilesLoadBackAndNumbersComeFromPositions) {
-  for (const char* name : kDatabaseFiles) EXPECT_TRUE(fs::exists(fs::path("data/database") / name)) << name;
+  for (const auto& [stored, native] : StoppingFiles()) EXPECT_TRUE(fs::exists(native)) << stored;
   g_vecSkillList.resize(2);
   g_vecSkillList[1].m_nID = 9;
   g_vecSkillList[1].m_vecSkill[1].m_nID = 9;
@@ -60,21 +62,26 @@ TEST_F(ProjectDatabaseTest, SavedFilesLoadBackAndNumbersComeFromPositions) {
   EXPECT_EQ(g_vecSkillList[1].m_vecSkill[1].m_nID, 1);
 }
 
-TEST_F(ProjectDatabaseTest, AMissingFileStopsTheLoadAndNamesTheDefaultFolder) {
-  fs::remove("data/database/Sound.dat");
-  EXPECT_EQ(LoadProjectRecords(), 0);
-  ASSERT_EQ(m_prompt.shown.size(), 1u);
-  EXPECT_EQ(m_prompt.shown[0].text,
-            CP932_TEXT("data\\database\\Sound.dat の読み込みに失敗しました！\nこのファイルが存在しない場合は「default」フォルダから「data」フォルダへ同名のファイルをコピーして下さい。"));
-}
-
-TEST_F(ProjectDatabaseTest, AFileOfANewerVersionStopsTheLoadWithTheVersionText) {
-  SetVersion("data/database/Land.dat", 291);
-  EXPECT_EQ(LoadProjectRecords(), 0);
-  ASSERT_EQ(m_prompt.shown.size(), 1u);
-  EXPECT_EQ(m_prompt.shown[0].text,
-            CP932_TEXT("data\\database\\Land.dat の読み込みに失敗しました！\n実行ファイル(.exe)より上位のバージョンのファイルは使用できません。"));
-  EXPECT_EQ(g_bFileTooNew, 1);
+TEST_F(ProjectDatabaseTest, EachMissingOrTooNewFileStopsTheLoadWithItsMessage) {
+  const std::vector<std::pair<std::string, fs::path>> files = StoppingFiles();
+  EXPECT_EQ(files.size(), 20u);
+  for (const auto& [stored, native] : files) {
+    const std::vector<unsigned char> bytes = FileBytes(native);
+    for (bool tooNew : {false, true}) {
+      if (tooNew) {
+        SetVersion(native.string(), 291);
+      } else {
+        fs::remove(native);
+      }
+      m_prompt.shown.clear();
+      EXPECT_EQ(LoadProjectRecords(), 0) << stored;
+      ASSERT_EQ(m_prompt.shown.size(), 1u) << stored;
+      const std::string reason = tooNew ? "実行ファイル(.exe)より上位のバージョンのファイルは使用できません。"
+                                        : "このファイルが存在しない場合は「default」フォルダから「data」フォルダへ同名のファイルをコピーして下さい。";
+      EXPECT_EQ(m_prompt.shown[0].text, stored + CP932_TEXT(" の読み込みに失敗しました！\n") + Cp932FromLiteral(reason.c_str()));
+      WriteBytes(native, bytes);
+    }
+  }
 }
 
 TEST_F(ProjectDatabaseTest, HelpIsReadOnlyFromProjectsThatHaveIt) {

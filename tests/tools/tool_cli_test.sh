@@ -6,6 +6,8 @@ dir=$(mktemp -d)
 trap 'rm -rf "$dir"' EXIT
 
 "$tool" --help | grep -q 'resave'
+"$tool" --help | grep -q 'csv export|import'
+if "$tool" csv export 2>/dev/null; then echo "csv without its words succeeded"; exit 1; fi
 if "$tool" no-such-command 2>/dev/null; then echo "an unknown command succeeded"; exit 1; fi
 
 "$tool" report "$dir" >/dev/null

@@ -2,6 +2,7 @@
 
 #include "app/prop_sheet_size.h"
 #include "command_table.h"
+#include "database/csv_file.h"
 #include "platform/cp932.h"
 #include "platform/stored_path.h"
 #include "kernel/record_vector_file.h"
@@ -48,7 +49,7 @@ void WriteProjectFiles(const fs::path& projectDir, const std::string& dataDir) {
   fs::create_directories(projectDir / dataDir / "database");
   fs::current_path(projectDir);
   SetStoredPathAlias("data", dataDir);
-  SaveAllDatabaseFiles();
+  SaveProjectRecords();
   SetStoredPathAlias("", "");
   fs::current_path(here);
 }
@@ -106,11 +107,13 @@ TEST_F(CheckTest, ANewProjectIsCheckedThroughItsDefaultTreeWithoutChangingIt) {
   WriteProjectFiles("proj", "default");
   fs::create_directories("proj/e_data");
   WriteImages("proj/image");
+  const auto entries = [] { return std::distance(fs::recursive_directory_iterator("proj"), fs::recursive_directory_iterator()); };
+  const auto before = entries();
   EXPECT_EQ(Tool({"check", "proj"}), kToolOk) << g_toolErr;
   EXPECT_NE(g_toolErr.find("checking \"default\" in its place"), std::string::npos);
   fs::current_path(m_dir);
   EXPECT_FALSE(fs::exists("proj/data"));
-  EXPECT_EQ(std::distance(fs::directory_iterator("proj"), fs::directory_iterator()), 3);
+  EXPECT_EQ(entries(), before);
 }
 
 TEST_F(CheckTest, AMissingSheetIsReportedAsTheEditorWouldAndFails) {
@@ -163,4 +166,61 @@ TEST_F(ResaveTest, CompatibilityRulesSurviveAResaveWithoutAProject) {
   EXPECT_NE(g_toolErr.find("no project tables loaded"), std::string::npos);
   EXPECT_EQ(FileBytes("CompatiType.dat"), before);
   g_Database.m_vecCompatiType.clear();
+}
+
+namespace {
+
+class CsvToolTest : public ProjectDirTest {
+ protected:
+  void SetUp() override {
+    ProjectDirTest::SetUp();
+    m_saved = g_vecSkillList;
+    g_vecSkillList.assign(2, cSkillList());
+    g_vecSkillList[0].m_vecSkill.resize(4);
+    g_vecSkillList[0].m_vecSkill[2].m_strName = Cp932FromLiteral("炎,氷");
+    NumberSkillLists(g_vecSkillList);
+    WriteProjectFiles("proj", "data");
+  }
+  void TearDown() override {
+    g_vecSkillList = m_saved;
+    ProjectDirTest::TearDown();
+  }
+  VECTOR_CLASS<cSkillList> m_saved;
+};
+
+}  // namespace
+
+TEST_F(CsvToolTest, ExportAndImportRunTheEditorsExchangeOnAProject) {
+  const fs::path skillFile = "proj/data/database/Skill.dat";
+  const std::vector<unsigned char> before = FileBytes(skillFile);
+  EXPECT_EQ(Tool({"csv", "export", "proj", "1", "one.csv"}), kToolOk) << g_toolErr;
+  EXPECT_EQ(Tool({"csv", "export", "proj/data", "1", "two.csv"}), kToolOk) << g_toolErr;  // the data directory will do
+  EXPECT_EQ(FileBytes("two.csv"), FileBytes("one.csv"));
+  EXPECT_EQ(Tool({"csv", "export", "proj", "1", "one.csv"}), kToolFailed);  // never overwritten
+  EXPECT_EQ(Tool({"csv", "import", "proj", "1", "one.csv"}), kToolOk) << g_toolErr;
+  EXPECT_EQ(FileBytes(skillFile), before);
+
+  // Refused: another list's file, a list that is not there, a missing file, no project.
+  EXPECT_EQ(Tool({"csv", "import", "proj", "2", "one.csv"}), kToolFailed);
+  ASSERT_FALSE(m_prompt.shown.empty());
+  EXPECT_EQ(m_prompt.shown.back().text, Cp932FromLiteral("不正なファイルです。データタイプのセルが不正です。"));
+  EXPECT_EQ(Tool({"csv", "import", "proj", "3", "one.csv"}), kToolFailed);
+  EXPECT_NE(g_toolErr.find("numbered 1 to 2"), std::string::npos);
+  EXPECT_EQ(Tool({"csv", "import", "proj", "1", "none.csv"}), kToolFailed);
+  EXPECT_EQ(Tool({"csv", "import", "proj/data", "1", "one.csv"}), kToolFailed);
+  EXPECT_EQ(Tool({"csv", "export", "proj"}), kToolUsage);
+  EXPECT_EQ(FileBytes(skillFile), before);
+  EXPECT_EQ(fs::current_path(), m_dir);
+
+  // An edited file reaches the skill file.
+  CSV_GRID grid;
+  ASSERT_EQ(ReadCsv("one.csv", grid), 1);
+  grid[10][1] = '"' + grid[10][1] + '"';  // the name holds a comma
+  grid[10][3] = "1234";                    // the price of skill 2
+  ASSERT_EQ(WriteCsv("one.csv", grid), 1);
+  EXPECT_EQ(Tool({"csv", "import", "proj", "1", "one.csv"}), kToolOk) << g_toolErr;
+  VECTOR_CLASS<cSkillList> lists;
+  ASSERT_EQ(LoadVector(lists, skillFile), 1);
+  EXPECT_EQ(lists[0].m_vecSkill[2].m_nPrice, 1234);
+  EXPECT_EQ(lists[0].m_vecSkill[2].m_strName, Cp932FromLiteral("炎,氷"));
 }

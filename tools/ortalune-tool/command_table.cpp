@@ -18,6 +18,15 @@ const std::array kCommands = {
                  &RunCheck},
     cToolCommand{"report", "report [DIR]",
                  "write the report log the editor starts with (Report_Editor.txt) in DIR, and print it", &RunReport},
+    cToolCommand{"render-music", "render-music IN OUT.wav [--seconds N]",
+                 "play a MIDI or ogg file as the editor plays it, into a WAV file instead of the sound card, until "
+                 "it ends or for at most N seconds (600 unless given)",
+                 &RunRenderMusic},
+    cToolCommand{"csv", "csv export|import DIR LIST FILE.csv",
+                 "export: write skill list LIST (numbered from 1, as in the editor) of the project in DIR, or of "
+                 "the data directory DIR, to a new spreadsheet file, never overwriting one; import: read the file "
+                 "into that list of the project in DIR and save its skill file (a refused file changes nothing)",
+                 &RunCsv},
 };
 
 }  // namespace

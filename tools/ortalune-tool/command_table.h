@@ -20,6 +20,8 @@ int RunHelp(std::span<const std::string> args);
 int RunResave(std::span<const std::string> args);
 int RunReport(std::span<const std::string> args);
 int RunCheck(std::span<const std::string> args);
+int RunRenderMusic(std::span<const std::string> args);
+int RunCsv(std::span<const std::string> args);
 
 // The whole program: the command named by args[0] with the rest.
 int RunTool(std::span<const std::string> args);

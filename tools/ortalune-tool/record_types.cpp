@@ -11,10 +11,14 @@
 #include "database/help.h"
 #include "database/land.h"
 #include "database/media_tables.h"
+#include "database/move_ai.h"
 #include "database/skill_list.h"
+#include "event/stored_events.h"
 #include "kernel/record_vector_file.h"
 #include "project/project_globals.h"
 #include "project/system.h"
+#include "stage/stage.h"
+#include "stage/world_map.h"
 
 namespace fs = std::filesystem;
 
@@ -49,6 +53,21 @@ struct cFileIo {
   static int Save(T& record, const fs::path& path) { return record.SaveFile(path); }
 };
 
+// A stage passes through g_Stage: its groups and move AI repair against the stage in
+// memory, so a stage read beside it would be cut to that stage's map.
+template <>
+struct cFileIo<cStage> {
+  static int Load(cStage& stage, const fs::path& path) {
+    if (!g_Stage.LoadFile(path)) return 0;
+    stage = g_Stage;
+    return 1;
+  }
+  static int Save(cStage& stage, const fs::path& path) {
+    g_Stage = stage;
+    return g_Stage.SaveFile(path);
+  }
+};
+
 template <class T>
 struct cFileIo<VECTOR_CLASS<T>> {
   static int Load(VECTOR_CLASS<T>& records, const fs::path& path) { return LoadVector(records, path); }
@@ -81,12 +100,17 @@ const std::array kRecordFileTypes = {
     cRecordFileType{"Bgm", "Bgm.dat", "", "music (data\\database)", ResaveVector<cEdBgm>},
     cRecordFileType{"CharaAnim", "CharaAnim.dat", "", "character animations (data\\database)",
                     ResaveVector<cCharaAnimPat>},
+    cRecordFileType{"Class", "Class.dat", "", "classes (data\\database)", ResaveVector<cClass>},
+    cRecordFileType{"Enemy", "Enemy.dat", "", "enemies with their AI (data\\database)", ResaveVector<cEnemy>},
+    cRecordFileType{"Friend", "Friend.dat", "", "allies (data\\database)", ResaveVector<cFriend>},
     cRecordFileType{"CompatiType", "CompatiType.dat", "", "compatibility types (data\\database)",
                     ResaveVector<cCompatiType>},
     cRecordFileType{"EffectAnim", "EffectAnim.dat", "", "effect animations (data\\database)",
                     ResaveVector<cEffectAnimPat>},
     cRecordFileType{"Help", "Help.dat", "", "help topics (data\\database)", ResaveVector<cEdHelp>},
     cRecordFileType{"Land", "Land.dat", "", "terrain (data\\database)", ResaveVector<cLand>},
+    cRecordFileType{"MoveAITemplate", "MoveAITemplate.dat", "", "saved move AI rule sets (data)",
+                    ResaveVector<cMoveAITemplate>},
     cRecordFileType{"PartyVal", "PartyVal.dat", "", "party variables (data\\database)", ResaveVector<cPtVal>},
     cRecordFileType{"Picture", "Picture.dat", "", "pictures (data\\database)", ResaveVector<cEdPicture>},
     cRecordFileType{"Skill", "Skill.dat", "", "skill lists with their skills (data\\database)",
@@ -94,11 +118,20 @@ const std::array kRecordFileTypes = {
     cRecordFileType{"Sound", "Sound.dat", "", "sound effects (data\\database)", ResaveVector<cEdSound>},
     cRecordFileType{"System", "System.dat", "", "game-wide settings and terms (data\\database)",
                     ResaveRecord<cSystem>},
+    cRecordFileType{"StartEvent", "StartEvent.dat", "", "the event the game runs at its start (data\\database)",
+                    ResaveRecord<cEvent>},
+    cRecordFileType{"GValInfo", "GValInfo.dat", "", "names of the common variables (data)", ResaveVector<cGValInfo>},
+    cRecordFileType{"EventPlt", "EventPlt.dat", "", "the event palette's templates (data)", ResaveVector<cEvent>},
+    cRecordFileType{"EventActionPlt", "EventActionPlt.dat", "", "the action palette (data)",
+                    ResaveVector<cEventActPlt>},
     cRecordFileType{"EditConfig", "EditConfig.dat", "", "the editor's own settings and window places (e_data)",
                     ResaveRecord<cEditConfig>},
     cRecordFileType{"SheetSize", "SheetSize.dat", "", "property sheet scale of this machine (e_data)",
                     ResaveRecord<cPropSheetSize>},
     cRecordFileType{"Testplay", "Testplay.dat", "", "test play settings (e_data)", ResaveRecord<cTestPlay>},
+    cRecordFileType{"Stage", "", ".stg2", "one stage: map, enemies, events, groups (data\\stg)", ResaveRecord<cStage>},
+    cRecordFileType{"WorldMap", "WorldMap.dat", "", "the world map with its chips and events (data\\database)",
+                    ResaveRecord<cWorldMap>},
 };
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {

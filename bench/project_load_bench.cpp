@@ -1,0 +1,155 @@
+// The load of a large project and the save of its database, each against the plain file
+// work underneath it measured in the same run: reading the same files' bytes, and writing
+// the same bytes to the same files through a temporary file and a rename.
+//
+// The project: 999 classes, allies and enemies; 16 skill lists of 999 skills; 999
+// terrain rows; a 64 by 64 default stage with 500 events; 999 palette events. The load
+// is that of the records (what `ortalune-tool check` runs before the image sheets).
+
+#include <benchmark/benchmark.h>
+
+#include "ratio_reporter.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+#include "platform/cp932.h"
+#include "platform/file_io.h"
+#include "platform/prompt.h"
+#include "project/project_files.h"
+#include "project/project_globals.h"
+#include "project/project_load.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kRows = 999;
+
+class cSilentPrompt : public cPrompt {
+ public:
+  int MessageBox(void*, const std::string&, const std::string&, unsigned) override { return IDOK; }
+  void Beep() override {}
+};
+
+void FillProject() {
+  g_vecSkillList.assign(16, cSkillList());
+  for (cSkillList& list : g_vecSkillList) {
+    list.m_vecCateg.resize(4);
+    list.m_vecSkill.resize(kRows + 1);
+    for (std::size_t i = 1; i < list.m_vecSkill.size(); ++i) list.m_vecSkill[i].m_strName = Cp932FromLiteral("ファイア");
+  }
+  NumberSkillLists(g_vecSkillList);
+  g_vecLand.assign(kRows, cLand());
+  g_vecClass.assign(kRows + 1, cClass());
+  for (cClass& cls : g_vecClass) cls.FixRefs();
+  g_vecFriend.assign(kRows + 1, cFriend());
+  g_vecEnemy.assign(kRows + 1, cEnemy());
+  for (cFriend& ally : g_vecFriend) ally.FixRefs();
+  for (cEnemy& enemy : g_vecEnemy) enemy.FixRefs();
+  g_Stage.Init();
+  g_Stage.Resize(64, 64);
+  for (int i = 0; i < 500; ++i) {
+    cEvent event;
+    event.m_strName = Cp932FromLiteral("宝箱");
+    g_Stage.PutEvent(event, i % 64, i / 64);
+  }
+  g_vecEventPlt.assign(kRows, cEvent());
+}
+
+struct Workspace {
+  fs::path dir;
+  cSilentPrompt prompt;
+  std::vector<std::pair<fs::path, std::vector<unsigned char>>> allFiles;
+  std::vector<std::pair<fs::path, std::vector<unsigned char>>> databaseFiles;
+
+  Workspace() {
+    std::string pattern = (fs::temp_directory_path() / "ortalune-project-XXXXXX").string();
+    if (!::mkdtemp(pattern.data())) std::abort();
+    dir = pattern;
+    fs::current_path(dir);
+    SetPrompt(&prompt);
+    FillProject();
+    if (!SaveProjectRecords()) std::abort();
+    for (const auto& entry : fs::recursive_directory_iterator("data")) {
+      if (!entry.is_regular_file()) continue;
+      std::vector<unsigned char> bytes;
+      ReadWholeFile(entry.path(), bytes);
+      allFiles.emplace_back(entry.path(), bytes);
+      // The files SaveAllDatabaseFiles writes: the database folder.
+      if (entry.path().parent_path().filename() == "database" && entry.path().filename() != "StartEvent.dat") {
+        databaseFiles.emplace_back(entry.path(), bytes);
+      }
+    }
+  }
+  ~Workspace() {
+    SetPrompt(nullptr);
+    std::error_code ec;
+    fs::current_path(fs::temp_directory_path(), ec);
+    fs::remove_all(dir, ec);
+  }
+};
+
+Workspace& Project() {
+  static Workspace workspace;
+  return workspace;
+}
+
+void BM_LoadProject(benchmark::State& state) {
+  Project();
+  for (auto _ : state) {
+    if (!LoadProjectRecords()) state.SkipWithError("the project did not load");
+  }
+}
+
+void BM_ReadSameBytes(benchmark::State& state) {
+  Workspace& w = Project();
+  std::vector<unsigned char> bytes;
+  for (auto _ : state) {
+    for (const auto& [path, stored] : w.allFiles) {
+      ReadWholeFile(path, bytes);
+      benchmark::DoNotOptimize(bytes.data());
+    }
+  }
+}
+
+void BM_SaveAllDatabase(benchmark::State& state) {
+  Project();
+  for (auto _ : state) {
+    if (!SaveAllDatabaseFiles()) state.SkipWithError("a file was skipped");
+  }
+}
+
+void BM_WriteSameBytes(benchmark::State& state) {
+  Workspace& w = Project();
+  for (auto _ : state) {
+    for (const auto& [path, bytes] : w.databaseFiles) WriteFileAtomic(path, bytes.data(), bytes.size());
+  }
+}
+
+BENCHMARK(BM_LoadProject)->Unit(benchmark::kMillisecond)->MinTime(2.0);
+BENCHMARK(BM_ReadSameBytes)->Unit(benchmark::kMillisecond)->MinTime(2.0);
+BENCHMARK(BM_SaveAllDatabase)->Unit(benchmark::kMillisecond)->MinTime(2.0);
+BENCHMARK(BM_WriteSameBytes)->Unit(benchmark::kMillisecond)->MinTime(2.0);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  cRatioReporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  const double load = reporter.Time("BM_LoadProject/min_time:2.000");
+  const double read = reporter.Time("BM_ReadSameBytes/min_time:2.000");
+  const double save = reporter.Time("BM_SaveAllDatabase/min_time:2.000");
+  const double write = reporter.Time("BM_WriteSameBytes/min_time:2.000");
+  if (read > 0) std::printf("Project load: %.2f times reading the same files' bytes (target: at most 10)\n", load / read);
+  if (write > 0) {
+    std::printf("Database save: %.2f times writing the same bytes the same way (target: at most 2)\n", save / write);
+  }
+  benchmark::Shutdown();
+  return 0;
+}
