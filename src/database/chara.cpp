@@ -100,6 +100,16 @@ void cChara::SetDefault() {
   m_vecLearnSkill.clear();
 }
 
+void cChara::DropDerivedTables() {
+  for (SENSE_TABLE* sense : {&m_vecvecSense, &m_vecvecSenseBase, &m_vecvecSenseAdd}) sense->clear();
+  m_vecvecSlot.clear();
+  m_vecvecReserve.clear();
+  for (int i = 0; i < kStatusCount; ++i) {
+    m_avecGrow[i].clear();
+    m_avecRandomGrow[i].clear();
+  }
+}
+
 const cClass* cChara::Class() const {
   if (m_nClass <= 0 || m_nClass >= g_vecClass.Count()) return nullptr;
   return &g_vecClass[static_cast<std::size_t>(m_nClass)];

@@ -62,6 +62,10 @@ class cChara : public cSerial {
   void ApplyRates(const int* anRate, int bAll);
   void RecalcStatus();
 
+  // Empties the tables that FixRefs sizes from the other tables: places, sense and
+  // growth. A record about to be read needs none of them.
+  void DropDerivedTables();
+
   // The view of this character that the skill placing rules work on.
   SKILL_HOLDER Holder();
   // The class row, or null when it is 0 or past the table.
@@ -113,6 +117,15 @@ class cChara : public cSerial {
   PLACE_TABLE m_vecvecReserve;
   VECTOR_CLASS<cLearnSkill> m_vecLearnSkill;
 };
+
+// What a row of a character table being read starts from: its defaults without the
+// derived tables, which the file replaces and the load's repair sizes anew.
+template <class Row>
+Row RowForReading() {
+  Row row;
+  row.DropDerivedTables();
+  return row;
+}
 
 // The ceiling of status `i` in the system settings.
 int StatusMax(int i);

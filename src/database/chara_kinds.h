@@ -16,6 +16,7 @@ class cFriend : public cChara {
  public:
   cFriend() { cFriend::SetDefault(); }
   SERIAL_RECORD(cFriend)
+  static cFriend ReadingDefault() { return RowForReading<cFriend>(); }
 
   int Serialize(int op, const cSerial* other, cSerialFile* file, std::uint32_t version) override;
   int Load(cSerialFile* file) override;
@@ -34,6 +35,7 @@ class cEnemy : public cChara {
  public:
   cEnemy() { cEnemy::SetDefault(); }
   SERIAL_RECORD(cEnemy)
+  static cEnemy ReadingDefault() { return RowForReading<cEnemy>(); }
 
   int Serialize(int op, const cSerial* other, cSerialFile* file, std::uint32_t version) override;
   int Load(cSerialFile* file) override;

@@ -5,6 +5,7 @@
 // little-endian exactly as they lie in memory; counts are u32 in front of elements.
 
 #include <bit>
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <string>
@@ -141,17 +142,32 @@ int SerialRecordArray(int op, T* f, const std::type_identity_t<T>* o, int count,
   return 1;
 }
 
-// Reading erases the vector and fills it with copies of a freshly constructed T, so
-// each element starts from the constructor's defaults, then loads each in order.
+// The record each element of a vector being read starts from: a freshly constructed T,
+// or, where T provides `static T ReadingDefault()`, those defaults without the derived
+// tables that every file replaces and the record's load sizes anew, so that they are
+// not built and copied once per element only to be thrown away.
+template <class T>
+T ReadingPrototype() {
+  if constexpr (requires { T::ReadingDefault(); }) {
+    return T::ReadingDefault();
+  } else {
+    return T();
+  }
+}
+
+// Reading erases the vector and fills it with copies of the prototype, so each element
+// starts from the constructor's defaults, and loads each in order.
 template <class T>
 int ReadRecordVector(VECTOR_CLASS<T>& f, cSerialFile* file) {
   std::uint32_t n = 0;
   // Every record stores at least one byte, which bounds the count by the file's size.
   if (!serial_detail::ReadCount(file, 1, n)) return 0;
+  const T prototype = ReadingPrototype<T>();
   f.clear();
-  f.insert(f.end(), n, T());
-  for (T& element : f) {
-    if (!element.Load(file)) return 0;
+  f.reserve(std::min<std::uint32_t>(n, 4096));  // a damaged count fails at its first short record
+  for (std::uint32_t i = 0; i < n; ++i) {
+    f.push_back(prototype);
+    if (!f.back().Load(file)) return 0;
   }
   return 1;
 }

@@ -17,15 +17,9 @@ std::unique_ptr<cSerialFile> cSerialFile::ForWriting() {
   return std::unique_ptr<cSerialFile>(new cSerialFile(Mode::Write));
 }
 
-bool cSerialFile::Read(void* data, std::size_t size) {
-  if (m_bFailed) return false;
-  if (size > m_bytes.size() - m_pos) {
-    Fail("the data ends early");
-    return false;
-  }
-  if (size > 0) std::memcpy(data, m_bytes.data() + m_pos, size);
-  m_pos += size;
-  return true;
+bool cSerialFile::ReadPastEnd() {
+  Fail("the data ends early");
+  return false;
 }
 
 void cSerialFile::Fail(const char* what) {

@@ -24,10 +24,18 @@ class cSerialFile {
   Mode GetMode() const { return m_mode; }
 
   // Reading. False when fewer than `size` bytes remain; the file is then failed.
-  bool Read(void* data, std::size_t size);
+  bool Read(void* data, std::size_t size) {
+    if (m_bFailed || size > m_bytes.size() - m_pos) return ReadPastEnd();
+    if (size > 0) std::memcpy(data, m_bytes.data() + m_pos, size);
+    m_pos += size;
+    return true;
+  }
   template <class T>
   bool ReadValue(T& value) {
-    return Read(&value, sizeof value);
+    if (m_bFailed || sizeof value > m_bytes.size() - m_pos) return ReadPastEnd();
+    std::memcpy(&value, m_bytes.data() + m_pos, sizeof value);  // a fixed size: no call
+    m_pos += sizeof value;
+    return true;
   }
   std::size_t Remaining() const { return m_bFailed ? 0 : m_bytes.size() - m_pos; }
   std::size_t Position() const { return m_pos; }
@@ -44,7 +52,9 @@ class cSerialFile {
   }
   template <class T>
   void WriteValue(const T& value) {
-    Write(&value, sizeof value);
+    const std::size_t at = m_bytes.size();
+    m_bytes.resize(at + sizeof value);
+    std::memcpy(m_bytes.data() + at, &value, sizeof value);
   }
 
   const std::vector<unsigned char>& Bytes() const { return m_bytes; }
@@ -55,6 +65,8 @@ class cSerialFile {
 
  private:
   explicit cSerialFile(Mode mode) : m_mode(mode) {}
+  // A read that would pass the end fails the file; always false.
+  bool ReadPastEnd();
 
   Mode m_mode;
   std::vector<unsigned char> m_bytes;
