@@ -45,12 +45,12 @@ void CloseAudioDevice() {
 }
 
 bool LoadWaveFile(const std::filesystem::path& path, std::vector<float>& frames) {
-  SDL_AudioSpec spec{};
+  SDL_AudioSpec fileFormat{};
   Uint8* data = nullptr;
   Uint32 bytes = 0;
-  if (SDL_LoadWAV(path.c_str(), &spec, &data, &bytes) == nullptr) return false;
+  if (SDL_LoadWAV(path.c_str(), &fileFormat, &data, &bytes) == nullptr) return false;
   SDL_AudioCVT cvt{};
-  bool ok = SDL_BuildAudioCVT(&cvt, spec.format, spec.channels, spec.freq, AUDIO_F32SYS, 2, kSoundRate) >= 0;
+  bool ok = SDL_BuildAudioCVT(&cvt, fileFormat.format, fileFormat.channels, fileFormat.freq, AUDIO_F32SYS, 2, kSoundRate) >= 0;
   if (ok) {
     std::vector<Uint8> buffer(static_cast<std::size_t>(bytes) * static_cast<std::size_t>(cvt.len_mult));
     std::memcpy(buffer.data(), data, bytes);
