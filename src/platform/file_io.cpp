@@ -14,18 +14,22 @@ bool ReadWholeFile(const std::filesystem::path& path, std::vector<unsigned char>
     return false;
   }
   ::posix_fadvise(fd, 0, 0, POSIX_FADV_SEQUENTIAL);
-  std::vector<unsigned char> data;
-  data.reserve(static_cast<std::size_t>(st.st_size));
-  unsigned char chunk[65536];
+  // Read straight into the buffer, sized from the file. Once it is full, a small probe
+  // finds the end; a file that grew meanwhile is read on from there.
+  std::vector<unsigned char> data(static_cast<std::size_t>(st.st_size));
+  std::size_t filled = 0;
+  unsigned char probe[4096];
   for (;;) {
-    ssize_t n = ::read(fd, chunk, sizeof chunk);
+    const bool full = filled == data.size();
+    ssize_t n = full ? ::read(fd, probe, sizeof probe) : ::read(fd, data.data() + filled, data.size() - filled);
     if (n < 0 && errno == EINTR) continue;
     if (n < 0) {
       ::close(fd);
       return false;
     }
     if (n == 0) break;
-    data.insert(data.end(), chunk, chunk + n);
+    if (full) data.insert(data.end(), probe, probe + n);
+    filled += static_cast<std::size_t>(n);
   }
   ::close(fd);
   out = std::move(data);
