@@ -19,6 +19,7 @@
 
 #include "platform/cp932.h"
 #include "platform/file_io.h"
+#include "platform/heap_pages.h"
 #include "platform/prompt.h"
 #include "project/project_files.h"
 #include "project/project_globals.h"
@@ -139,6 +140,7 @@ BENCHMARK(BM_WriteSameBytes)->Unit(benchmark::kMillisecond)->MinTime(2.0);
 }  // namespace
 
 int main(int argc, char** argv) {
+  RestartWithHugePageHeap(argv);  // as the editor and the tool do at their start
   benchmark::Initialize(&argc, argv);
   cRatioReporter reporter;
   benchmark::RunSpecifiedBenchmarks(&reporter);
