@@ -13,11 +13,21 @@ const std::array kCommands = {
                  "read a record file of any version and write it at the current version (to OUT, or in place); "
                  "the tables of the project in the current directory are loaded first",
                  &RunResave},
+    cToolCommand{"new", "new DIR",
+                 "make a new project in DIR (new or empty) from the bundled template: a small game with its "
+                 "database, a sample stage, the world map, pictures, sounds and music",
+                 &RunNew},
     cToolCommand{"check", "check [DIR]",
                  "load the project in DIR as the editor does and show each message it would; changes nothing",
                  &RunCheck},
     cToolCommand{"report", "report [DIR]",
                  "write the report log the editor starts with (Report_Editor.txt) in DIR, and print it", &RunReport},
+    cToolCommand{"render-stage", "render-stage FILE.stg2 OUT.png",
+                 "draw the whole stage FILE of the project in the current directory, as the editor's map view "
+                 "draws it with the project's own pictures, into a PNG file",
+                 &RunRenderStage},
+    cToolCommand{"render-world", "render-world OUT.png",
+                 "draw the whole world map of the project in the current directory into a PNG file", &RunRenderWorld},
     cToolCommand{"render-music", "render-music IN OUT.wav [--seconds N]",
                  "play a MIDI or ogg file as the editor plays it, into a WAV file instead of the sound card, until "
                  "it ends or for at most N seconds (600 unless given)",

@@ -22,6 +22,9 @@ int RunReport(std::span<const std::string> args);
 int RunCheck(std::span<const std::string> args);
 int RunRenderMusic(std::span<const std::string> args);
 int RunCsv(std::span<const std::string> args);
+int RunNew(std::span<const std::string> args);
+int RunRenderStage(std::span<const std::string> args);
+int RunRenderWorld(std::span<const std::string> args);
 
 // The whole program: the command named by args[0] with the rest.
 int RunTool(std::span<const std::string> args);
