@@ -1,0 +1,54 @@
+#pragma once
+// The combo's rules: which rows it shows, which row stands for the field's value and
+// which value a row stores. Rows come from a static label table (UTF-8, ending with
+// "") or from labels built at run time (CP932, as record names are); the stored value
+// is row + nOffset, or pValues[row] when the form gives a value table.
+//
+// The Qt side fills the widget from Rows(), selects Update()'s row (-1: none), stores
+// with Apply(current row) and calls SetLabels when the form replaces the rows.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "kernel/vector_class.h"
+
+struct cComboInit {
+  std::uint16_t nId = 0;
+  int* pData = nullptr;
+  const char* const* pLabels = nullptr;                    // or null
+  const VECTOR_CLASS<std::string>* pLabelVector = nullptr;  // used when pLabels is null
+  int nOffset = 0;                                          // the value of row 0
+  const VECTOR_CLASS<int>* pValues = nullptr;               // if set, value = pValues[row]
+};
+
+class cComboRules {
+ public:
+  void Bind(const cComboInit& init);
+
+  // The rows as the widget shows them, UTF-8.
+  const std::vector<std::string>& Rows() const { return m_vecRows; }
+  // The row of `value`; -1 when no row stands for it.
+  int RowOfValue(int value) const;
+  // The value that row `row` stores; -1 for no row or a row past the value table.
+  int ValueOfRow(int row) const;
+
+  // The row to select for the field.
+  int Update() const { return RowOfValue(*m_Init.pData); }
+  void Apply(int row, bool ownerUpdating) {
+    if (!ownerUpdating) *m_Init.pData = ValueOfRow(row);
+  }
+  // Replaces the rows and answers the row to select, keeping the value of row `curRow`
+  // where it can: a new value table starts at row 0; without one, a value below the
+  // offset takes row 0 and one past the rows the last row. This is how a combo over a
+  // database list keeps working when the list has shrunk.
+  int SetLabels(const char* const* labels, const VECTOR_CLASS<int>* pValues, int curRow);
+  int SetLabels(const VECTOR_CLASS<std::string>& labels, const VECTOR_CLASS<int>* pValues, int curRow);
+
+ private:
+  int Reselect(int value, const VECTOR_CLASS<int>* pValues);
+  void FillRows(const char* const* labels, const VECTOR_CLASS<std::string>* labelVector);
+
+  cComboInit m_Init;
+  std::vector<std::string> m_vecRows;
+};

@@ -1,0 +1,276 @@
+// The list control protocol over a record vector, without a display.
+
+#include <functional>
+
+#include "app/main_window_link.h"
+#include "kernel/test_records.h"
+#include "support/test_env.h"
+#include "toolkit/ctrl_types.h"
+#include "toolkit/list_command.h"
+#include "toolkit/list_ctrl.h"
+
+namespace {
+
+using cList = CTRL_LIST_CLASS<cTestItem>;
+
+VECTOR_CLASS<cTestItem> Items(const std::string& names) {
+  VECTOR_CLASS<cTestItem> v;
+  for (char c : names) {
+    v.emplace_back();
+    v.back().m_strName = std::string(1, c);
+    v.back().m_nValue = c;
+  }
+  return v;
+}
+
+std::string Names(const VECTOR_CLASS<cTestItem>& v) {
+  std::string s;
+  for (const cTestItem& t : v) s += (s.empty() ? "" : ",") + t.m_strName;
+  return s;
+}
+
+class ListCtrlTest : public ProjectDirTest {
+ protected:
+  void TearDown() override {
+    EXPECT_FALSE(g_bRunEnding) << "a vector was read out of range";
+    ProjectDirTest::TearDown();
+  }
+  void Make(const std::string& names, cListInit<cTestItem> init = {}) {
+    m_src = Items(names);
+    init.nId = 5000;
+    init.pSource = &m_src;
+    init.pWork = &m_work;
+    init.pEditRec = &m_edit;
+    init.pfnRowText = [](std::string& out, int, const cTestItem& t) { out = t.m_strName; };
+    m_list.Bind(init);
+    m_list.Box().focus = true;
+  }
+  // The user selects `rows` (the caret on the first of them), as the widget reports it.
+  int Click(std::initializer_list<int> rows) {
+    cListBox& box = m_list.Box();
+    if (box.multi) {
+      box.sel.assign(box.Count(), 0);
+      for (int r : rows) box.sel[r] = 1;
+      box.caret = box.anchor = *rows.begin();
+    } else {
+      box.SetCurSel(*rows.begin());
+    }
+    return m_list.OnSelChange();
+  }
+
+  VECTOR_CLASS<cTestItem> m_src, m_work;
+  cTestItem m_edit;
+  cList m_list;
+};
+
+}  // namespace
+
+TEST_F(ListCtrlTest, RowsShowNumbersBlankRowAndHideLeadingElements) {
+  Make("abc", {.bRowNumbers = 1, .bBlankRow = 1});
+  EXPECT_EQ(m_list.Box().rows, (VECTOR_CLASS<std::string>{"1 a", "2 b", "3 c", std::string(64, '-')}));
+  EXPECT_EQ(m_list.Box().curSel, 0);
+  EXPECT_EQ(m_edit.m_strName, "a");
+
+  Make(std::string(1000, 'x'), {.bRowNumbers = 1, .nMaxRows = 1000});
+  EXPECT_EQ(m_list.Box().rows[0], "0001 x");
+
+  Make("abc", {.bRowNumbers = 1, .nFirstRow = 1});
+  EXPECT_EQ(m_list.Box().rows, (VECTOR_CLASS<std::string>{"1 b", "2 c"}));
+  EXPECT_EQ(m_edit.m_strName, "b");
+  Click({1});
+  EXPECT_EQ(m_list.Delete(-1, 0), 1);
+  m_list.Delete(-1, 0);
+  EXPECT_EQ(Names(m_work), "a");  // the hidden element never moves
+  EXPECT_EQ(m_list.Box().Count(), 0);
+}
+
+TEST_F(ListCtrlTest, LimitsAndRefusals) {
+  struct cCase {
+    const char* name;
+    cListInit<cTestItem> init;
+    std::string rows;
+    int click;
+    std::function<int(cList&)> op;
+    int result, beeps;
+    std::string after;
+  };
+  auto paste = [](const std::string& names) { return [names](cList& l) { return l.Paste(Items(names)); }; };
+  const cCase cases[] = {
+      {"delete of the last row at minimum 1", {.nMinRows = 1}, "a", 0, [](cList& l) { return l.Delete(-1, 0); }, 0, 1, "a"},
+      {"new at the maximum", {.nMaxRows = 2}, "ab", 0, [](cList& l) { return l.Append(); }, 0, 1, "a,b"},
+      {"insert at the maximum", {.nMaxRows = 2}, "ab", 0, [](cList& l) { return l.Insert(); }, 0, 1, "a,b"},
+      {"paste at the maximum", {.nMaxRows = 2}, "ab", 0, paste("x"), 0, 1, "a,b"},
+      {"paste of 3 one short of the maximum", {.nMaxRows = 3}, "ab", 1, paste("xyz"), 1, 0, "a,x,y,z,b"},
+      {"paste of nothing", {}, "ab", 1, paste(""), 1, 0, "a,b"},
+      {"paste on the blank row appends", {.bBlankRow = 1}, "ab", 2, paste("x"), 1, 0, "a,b,x"},
+      {"cut on the blank row", {.bBlankRow = 1}, "ab", 2, [](cList& l) { return l.Cut(); }, 0, 1, "a,b"},
+      {"copy on the blank row", {.bBlankRow = 1}, "ab", 2, [](cList& l) { return l.Copy(); }, 0, 1, "a,b"},
+      {"resize past the maximum", {.nMinRows = 1, .nMaxRows = 5}, "ab", 0, [](cList& l) { return l.Resize(6); }, 0, 1, "a,b"},
+      {"clear keeps the rows", {}, "abc", 1, [](cList& l) { return l.Clear(); }, 1, 0, "a,,c"},
+      {"cut removes the row", {}, "abc", 1, [](cList& l) { return l.Cut(); }, 1, 0, "a,c"},
+  };
+  for (const cCase& c : cases) {
+    SCOPED_TRACE(c.name);
+    Make(c.rows, c.init);
+    Click({c.click});
+    m_prompt.beeps = 0;
+    EXPECT_EQ(c.op(m_list), c.result);
+    EXPECT_EQ(m_prompt.beeps, c.beeps);
+    EXPECT_EQ(Names(m_work), c.after);
+  }
+}
+
+TEST_F(ListCtrlTest, EditRecordFollowsTheRow) {
+  Make("abc");
+  Click({2});
+  m_list.Delete(-1, 0);  // the last row: the one before it is selected
+  EXPECT_EQ(m_list.m_nCurSel, 1);
+  EXPECT_EQ(m_edit.m_strName, "b");
+  m_list.Clear();
+  EXPECT_EQ(m_edit.m_nValue, 7);  // the record's defaults, not a reset
+
+  Make("a");
+  m_list.Delete(-1, 0);  // the only row: no selection and a reset edit record
+  EXPECT_EQ(m_list.m_nCurSel, -1);
+  EXPECT_EQ(m_edit.m_nValue, 0);
+
+  Make("a", {.bBlankRow = 1});
+  m_list.Delete(-1, 0);  // a list with a blank row never stands without a selection
+  EXPECT_EQ(m_list.Box().curSel, 0);
+
+  Make("ab", {.bBlankRow = 1});
+  EXPECT_EQ(Click({2}), 0);
+  EXPECT_EQ(m_edit.m_nValue, 7);  // the blank row shows a default record
+  m_edit.m_strName = "z";
+  EXPECT_EQ(m_list.CommitRow(), 0);
+  EXPECT_EQ(Names(m_work), "a,b");
+
+  Make("abc");
+  Click({2});
+  EXPECT_EQ(m_list.Resize(2), 1);  // the selection fell off the end
+  EXPECT_EQ(m_list.m_nCurSel, 0);
+  EXPECT_EQ(m_edit.m_strName, "a");
+  m_list.Resize(4);
+  EXPECT_EQ(Names(m_work), "a,b,,");
+  m_list.Apply(true);
+  EXPECT_EQ(Names(m_src), "a,b,c");
+  m_list.Apply(false);
+  EXPECT_EQ(Names(m_src), "a,b,,");
+}
+
+TEST_F(ListCtrlTest, MultiSelectionCopiesInRowOrderAndDeletes) {
+  Make("abcd", {.bMulti = 1, .bBlankRow = 1});
+  Click({3, 0, 4});  // the blank row too, and the caret on "d"
+  EXPECT_EQ(m_list.m_nCurSel, 3);
+  EXPECT_EQ(m_list.Copy(), 1);
+  EXPECT_EQ(Names(m_list.m_vecClip), "a,d");
+  EXPECT_EQ(m_list.Delete(-1, 0), 1);
+  EXPECT_EQ(Names(m_work), "b,c");
+  EXPECT_EQ(m_list.m_nCurSel, 2);  // on the blank row now, with a reset edit record
+  EXPECT_EQ(m_edit.m_nValue, 0);
+  EXPECT_EQ(m_list.m_vecSelFlag, (VECTOR_CLASS<int>{0, 0, 1}));
+
+  m_list.Box().caret = 0;  // select the row "b" then paste the clipboard before it
+  m_list.Box().sel = {1, 0, 0};
+  m_list.OnSelChange();
+  EXPECT_EQ(m_list.PasteClip(), 1);
+  EXPECT_EQ(Names(m_work), "a,d,b,c");
+  EXPECT_EQ(m_edit.m_strName, "a");
+
+  const VECTOR_CLASS<int> before = m_list.m_vecSelFlag;
+  m_list.Box().sel.assign(m_list.Box().Count(), 0);  // the user deselected everything
+  m_list.OnSelChange();
+  m_list.RedrawSel();  // the last selection comes back
+  EXPECT_EQ(m_list.m_vecSelFlag, before);
+  EXPECT_EQ(m_list.m_nCurSel, 0);
+}
+
+TEST_F(ListCtrlTest, RightClickSelectsTheRowUnderThePoint) {
+  Make("abcde", {.bMulti = 1});
+  Click({2, 1});
+  const cListRect rect{0, 100, 200, 300};
+  auto yOfRow = [](int row) { return 100 + 2 + 12 * row + 5; };
+  EXPECT_EQ(m_list.HitTest(10, yOfRow(1), rect, false), 0);  // the owner is not current
+  EXPECT_EQ(m_list.HitTest(250, yOfRow(1), rect, true), 0);
+  EXPECT_EQ(m_list.HitTest(10, yOfRow(5), rect, true), 0);  // below the last row: no menu
+  EXPECT_EQ(m_list.HitTest(10, yOfRow(1), rect, true), 1);  // selected: the selection stays
+  EXPECT_EQ(m_list.m_vecSelFlag, (VECTOR_CLASS<int>{0, 1, 1, 0, 0}));
+  EXPECT_EQ(m_edit.m_strName, "b");
+  EXPECT_EQ(m_list.HitTest(10, yOfRow(3), rect, true), 1);  // not selected: it alone
+  EXPECT_EQ(m_list.m_vecSelFlag, (VECTOR_CLASS<int>{0, 0, 0, 1, 0}));
+  m_list.Box().topIndex = 2;
+  EXPECT_EQ(m_list.HitTest(10, yOfRow(0), rect, true), 1);
+  EXPECT_EQ(m_list.m_nCurSel, 2);
+}
+
+TEST_F(ListCtrlTest, KeysAndCommandIds) {
+  Make("abc");
+  using ids = std::vector<unsigned>;
+  EXPECT_EQ(m_list.OnKey('I', true), (ids{40082, 40069}));  // a form sets only one of them
+  EXPECT_EQ(m_list.OnKey('I', false), ids{});
+  m_list.SetIdSet(kListIdSets[kListFirstFixed]);
+  EXPECT_EQ(m_list.OnKey(0x2E, false), ids{40083});  // Delete clears a table's record
+  EXPECT_EQ(m_list.OnKey('X', true), ids{40030});
+  m_list.Box().focus = false;
+  EXPECT_EQ(m_list.HandleKeyCommand(40082), 0);  // another list of the form has the focus
+  EXPECT_EQ(Names(m_work), "a,b,c");
+  m_list.Box().focus = true;
+  EXPECT_EQ(m_list.HandleKeyCommand(40082), 1);
+  EXPECT_EQ(m_list.HandleMenuCommand(40081), 1);
+  EXPECT_EQ(Names(m_work), "a,b,c,");
+  EXPECT_EQ(m_list.HandleMenuCommand(40070), 0);  // a fixed table has no insert
+}
+
+TEST_F(ListCtrlTest, EndOfCommandKeepsRowEditRecordAndControlsInStep) {
+  struct cHost : cListCommandHost {
+    std::string log;
+    std::function<void()> apply;
+    void UpdateAllExcept(cListCtrlBase&) override { log += "update,"; }
+    void UpdateEnable() override { log += "enable,"; }
+    void ApplyControls() override {
+      log += "apply,";
+      apply();
+    }
+    void SheetChanged() override { log += "sheet,"; }
+  } host;
+  host.apply = [&] { m_edit.m_strName = "B"; };  // a control writes its field
+  Make("abc");
+  cListCtrlBase* lists[] = {&m_list};
+
+  BeginListCommand(lists);
+  m_list.Box().SetCurSel(1);  // the user clicked row 1
+  EndListCommand(lists, {.id = 5000, .code = kNotifySelChange, .ready = true}, host);
+  EXPECT_EQ(host.log, "update,enable,");
+  EXPECT_EQ(m_edit.m_strName, "b");
+  EXPECT_FALSE(m_list.Box().frozen);
+
+  host.log.clear();
+  BeginListCommand(lists);
+  EXPECT_TRUE(m_list.Box().frozen);
+  EndListCommand(lists, {.id = 5100, .code = kNotifyEditUpdate, .ready = true, .changed = true, .page = true}, host);
+  EXPECT_EQ(host.log, "enable,apply,sheet,");
+  EXPECT_EQ(Names(m_work), "a,B,c");
+  EXPECT_EQ(m_list.Box().rows[1], "B");
+  EXPECT_EQ(m_list.Box().curSel, 1);
+  EXPECT_FALSE(m_list.Box().frozen);
+  EXPECT_EQ(Names(m_src), "a,b,c");  // the source waits for OK
+}
+
+TEST_F(ListCtrlTest, OtherElementTypesAndADeadList) {
+  VECTOR_CLASS<VECTOR_CLASS<int>> src{{1, 2}, {3}}, work;
+  VECTOR_CLASS<int> edit;
+  CTRL_LIST_CLASS<VECTOR_CLASS<int>> nested;
+  nested.Bind({.pSource = &src, .pWork = &work, .pEditRec = &edit});
+  nested.Box().focus = true;
+  EXPECT_EQ(edit, (VECTOR_CLASS<int>{1, 2}));
+  nested.Clear();
+  EXPECT_TRUE(work[0].empty());
+
+  VECTOR_CLASS<int> none;
+  CTRL_LIST_CLASS<int> dead;
+  EXPECT_EQ(dead.Bind({.nMode = 0, .pSource = &none, .pWork = &none}), 0);
+  EXPECT_EQ(m_prompt.shown.size(), 1u);
+  EXPECT_EQ(dead.Append(), 0);
+  EXPECT_EQ(dead.Resize(0), 1);
+  EXPECT_TRUE(none.empty());
+}
