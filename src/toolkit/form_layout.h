@@ -1,0 +1,64 @@
+#pragma once
+// The layout of a form, built in code from a compact description: rows of cells on a
+// grid, optionally inside titled groups. Each control is made here with the widget
+// kind of its type and registered under its id, so that the form's binding finds it.
+// Texts are UTF-8; they only go to the screen.
+//
+//   void Layout(cFormLayout& L) override {
+//     L.Group("能力");
+//     L.Text("HP").EditVal(1010, 1011).Row();
+//     L.Check(1020, "毒を受けない", 2).Row();
+//     L.EndGroup();
+//     L.OkCancel();
+//   }
+
+#include <QString>
+
+class DLG_CLASS;
+class QGridLayout;
+class QWidget;
+
+class cFormLayout {
+ public:
+  // Builds into `parent` for `form`, whose widget table the controls are put in.
+  cFormLayout(DLG_CLASS& form, QWidget* parent);
+
+  // The next cell starts a new row.
+  cFormLayout& Row();
+  // A titled box that takes the rest of the row; its cells are a grid of their own until EndGroup.
+  cFormLayout& Group(const char* title, int span = 0);
+  cFormLayout& EndGroup();
+  // Leaves a cell empty.
+  cFormLayout& Skip(int span = 1);
+
+  // A fixed text without an id.
+  cFormLayout& Text(const char* text, int span = 1);
+  cFormLayout& Label(unsigned id, const char* text = "", int span = 1);
+  cFormLayout& Button(unsigned id, const char* text, int span = 1);
+  cFormLayout& Check(unsigned id, const char* text, int span = 1);
+  // A number edit; with a spin id the spin stands at its right in the same cell.
+  cFormLayout& EditVal(unsigned id, unsigned spinId = 0, int span = 1);
+  // A text edit of one line, or a text box of `lines` lines.
+  cFormLayout& EditStr(unsigned id, int lines = 1, int span = 1);
+  cFormLayout& Combo(unsigned id, int span = 1);
+  cFormLayout& Slider(unsigned id, int span = 1);
+  cFormLayout& Picture(unsigned id, int width, int height, int span = 1);
+  cFormLayout& List(unsigned id, int rows = 8, int span = 1);
+  // A row of buttons OK (1006) and Cancel (1007) at the right.
+  cFormLayout& OkCancel();
+
+  // The widget made last.
+  QWidget* Last() const { return m_pLast; }
+
+ private:
+  cFormLayout& Put(QWidget* w, unsigned id, int span);
+  QGridLayout* Grid() const;
+
+  DLG_CLASS& m_Form;
+  QWidget* m_pParent;
+  QGridLayout* m_pRoot;
+  QGridLayout* m_pGroup = nullptr;
+  int m_nRow = 0, m_nCol = 0;
+  int m_nGroupRow = 0, m_nGroupCol = 0;
+  QWidget* m_pLast = nullptr;
+};

@@ -1,0 +1,103 @@
+#pragma once
+// The widgets behind the typed controls. They know nothing of forms: each reports the
+// user's actions through its callbacks, which the layout connects to the form's
+// command path. Writes by the program go around the callbacks.
+
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <functional>
+
+class cSurface;
+
+// The number edit: typed characters pass the number filter; committed input-method
+// text arrives as the ASCII characters it stands for, and nothing of a composition
+// shows in the box or reaches the form.
+class cNumberEdit : public QLineEdit {
+ public:
+  explicit cNumberEdit(QWidget* parent = nullptr);
+  std::function<void()> onEdited;
+  std::function<void()> onFocusOut;
+
+ protected:
+  void keyPressEvent(QKeyEvent* e) override;
+  void inputMethodEvent(QInputMethodEvent* e) override;
+  void focusOutEvent(QFocusEvent* e) override;
+};
+
+// A one-line text field that tells whether Backspace made the edit.
+class cTextLine : public QLineEdit {
+ public:
+  explicit cTextLine(QWidget* parent = nullptr);
+  std::function<void()> onEdited;
+  std::function<void()> onFocusOut;
+  // True while the edit in progress was made with Backspace.
+  bool EditByBackspace() const { return m_bBackspace; }
+
+ protected:
+  void keyPressEvent(QKeyEvent* e) override;
+  void focusOutEvent(QFocusEvent* e) override;
+
+ private:
+  bool m_bBackspace = false;
+};
+
+// A text box of several lines, likewise.
+class cTextBox : public QPlainTextEdit {
+ public:
+  explicit cTextBox(QWidget* parent = nullptr);
+  std::function<void()> onEdited;
+  std::function<void()> onFocusOut;
+  // True while the edit in progress was made with Backspace.
+  bool EditByBackspace() const { return m_bBackspace; }
+
+ protected:
+  void keyPressEvent(QKeyEvent* e) override;
+  void focusOutEvent(QFocusEvent* e) override;
+
+ private:
+  bool m_bBackspace = false;
+};
+
+// Two arrow buttons; each click reports +1 (up) or -1 (down).
+class cSpinButtons : public QWidget {
+ public:
+  explicit cSpinButtons(QWidget* parent = nullptr);
+  std::function<void(int delta)> onDelta;
+  void Click(int delta) {
+    if (isEnabled() && onDelta) onDelta(delta);
+  }
+};
+
+// The list box: the user's selection changes and focus changes are reported; the right
+// button is left to the form's context menu.
+class cListWidget : public QListWidget {
+ public:
+  explicit cListWidget(QWidget* parent = nullptr);
+  std::function<void()> onSelChange;
+  std::function<void(bool focus)> onFocus;
+  std::function<void(int top)> onScrolled;
+
+ protected:
+  void mousePressEvent(QMouseEvent* e) override;
+  void mouseReleaseEvent(QMouseEvent* e) override;
+  void focusInEvent(QFocusEvent* e) override;
+  void focusOutEvent(QFocusEvent* e) override;
+};
+
+// Shows a surface of 24 or 32 bits as it is.
+class cPictureWidget : public QWidget {
+ public:
+  explicit cPictureWidget(QWidget* parent = nullptr);
+  const cSurface* surface = nullptr;
+
+ protected:
+  void paintEvent(QPaintEvent* e) override;
+};
+
+// A QImage over a surface's pixels (no copy); null for an empty surface or another depth.
+class QImage;
+QImage ImageOfSurface(const cSurface& s);
+
+// The virtual key code of a Qt key; 0 for keys without one here.
+int VirtualKeyOf(int qtKey);

@@ -1,0 +1,131 @@
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSlider>
+#include <QTest>
+
+#include "toolkit/ctrls.h"
+#include "toolkit/dlg_class.h"
+#include "toolkit/form_layout.h"
+
+namespace {
+
+// A list of numbers, the number under edit, a slider with its mirror and a combo over a
+// value table.
+class DLG_ROWS : public DLG_CLASS {
+ public:
+  enum : unsigned { kList = 1200, kEdit = 1201, kSlider = 1202, kMirror = 1203, kCombo = 1204 };
+  explicit DLG_ROWS(const VECTOR_CLASS<int>& rows) : DLG_CLASS(902, nullptr), m_vecSource(rows) {
+    m_vecValues = {10, 20, 30};
+    Declare(m_vecEdit, {{kEdit, &m_nEdit, 0, 999}});
+    Declare(m_vecSlider, {{kSlider, &m_sLevel, 0, 50, 10, 1, kMirror}});
+    Declare(m_vecCombo, {{kCombo, &m_nChoice, nullptr, &m_vecLabels, 0, &m_vecValues}});
+    m_vecList.resize(1);
+  }
+  void Layout(cFormLayout& L) override {
+    L.List(kList).EditVal(kEdit).Row().Slider(kSlider).EditVal(kMirror).Row().Combo(kCombo);
+  }
+  void OnInitDialog() override {
+    DLG_CLASS::OnInitDialog();
+    Bind(m_vecEdit);
+    Bind(m_vecCombo);
+    Bind(m_vecSlider);
+    cListInit<int> init;
+    init.nId = kList;
+    init.pSource = &m_vecSource;
+    init.pWork = &m_vecWork;
+    init.pEditRec = &m_nEdit;
+    init.nMinRows = 1;
+    init.pfnRowText = [](std::string& out, int, const int& v) { out = std::to_string(v); };
+    BindList(m_vecList[0], init);
+    UpdateAll();
+    m_bReady = 1;
+  }
+  void OnCommand(unsigned id, unsigned code) override {
+    DLG_CLASS::OnCommand(id, code);
+    if (id == kSlider) ++m_nSliderCommands;
+    EndListCommand(id, code);
+  }
+  QListWidget* List() { return static_cast<QListWidget*>(GetDlgItem(kList)); }
+
+  VECTOR_CLASS<int> m_vecSource, m_vecWork;
+  int m_nEdit = 0;
+  short m_sLevel = 12;
+  int m_nChoice = 25;  // in no row of the value table
+  VECTOR_CLASS<std::string> m_vecLabels{"ten", "twenty", "thirty"};
+  VECTOR_CLASS<int> m_vecValues;
+  int m_nSliderCommands = 0;
+  VECTOR_CLASS<CTRL_LIST_CLASS<int>> m_vecList;
+  VECTOR_CLASS<CTRL_EDITVAL_CLASS<int>> m_vecEdit;
+  VECTOR_CLASS<CTRL_SLIDER_CLASS<short>> m_vecSlider;
+  VECTOR_CLASS<CTRL_COMBO_CLASS<int>> m_vecCombo;
+};
+
+std::vector<std::string> Rows(QListWidget* w) {
+  std::vector<std::string> rows;
+  for (int i = 0; i < w->count(); ++i) rows.push_back(w->item(i)->text().toStdString());
+  return rows;
+}
+
+TEST(ListControl, RowsSelectionEditRecordAndCommitAgree) {
+  DLG_ROWS form(VECTOR_CLASS<int>{4, 5, 6});
+  ASSERT_TRUE(form.Create(0, false));
+  EXPECT_EQ(Rows(form.List()), (std::vector<std::string>{"4", "5", "6"}));
+  EXPECT_EQ(form.List()->currentRow(), 0);
+  form.List()->setCurrentRow(2);  // as a click does
+  EXPECT_EQ(form.m_nEdit, 6);
+  auto* edit = static_cast<QLineEdit*>(form.GetDlgItem(DLG_ROWS::kEdit));
+  EXPECT_EQ(edit->text(), "6");
+  QTest::keyClick(edit, Qt::Key_End);
+  QTest::keyClicks(edit, "1");  // each change of a control is committed to the row
+  EXPECT_EQ(Rows(form.List()), (std::vector<std::string>{"4", "5", "61"}));
+  EXPECT_EQ(form.m_vecSource, (VECTOR_CLASS<int>{4, 5, 6}));
+
+  form.m_vecList[0].Box().focus = true;  // the list's keys act only while it has the focus
+  form.SendCommand(kListIdSets[kListFirstFree].aKey[kListDelete], kNotifyClicked);
+  EXPECT_EQ(Rows(form.List()), (std::vector<std::string>{"4", "5"}));
+  EXPECT_EQ(form.List()->currentRow(), 1);
+  EXPECT_EQ(edit->text(), "5");
+  form.ApplyAll();
+  EXPECT_EQ(form.m_vecSource, (VECTOR_CLASS<int>{4, 5}));
+  form.End(0);
+}
+
+TEST(Slider, AMoveShowsInTheMirrorAndAnnouncesItself) {
+  DLG_ROWS form(VECTOR_CLASS<int>{1});
+  ASSERT_TRUE(form.Create(0, false));
+  auto* slider = static_cast<QSlider*>(form.GetDlgItem(DLG_ROWS::kSlider));
+  auto* mirror = static_cast<QLineEdit*>(form.GetDlgItem(DLG_ROWS::kMirror));
+  EXPECT_EQ(slider->value(), 12);
+  EXPECT_EQ(mirror->text(), "12");
+  const int before = form.m_nSliderCommands;
+  slider->setValue(33);  // as a drag does
+  EXPECT_EQ(mirror->text(), "33");
+  EXPECT_EQ(form.m_nSliderCommands, before + 1);
+  EXPECT_EQ(form.m_sLevel, 33);  // a form with a list applies every change at once
+  form.End(0);
+}
+
+TEST(Combo, AValueOutsideTheTableShowsNoRowAndShrunkLabelsKeepTheLastRow) {
+  DLG_ROWS form(VECTOR_CLASS<int>{1});
+  ASSERT_TRUE(form.Create(0, false));
+  auto* combo = static_cast<QComboBox*>(form.GetDlgItem(DLG_ROWS::kCombo));
+  EXPECT_EQ(combo->count(), 3);
+  EXPECT_EQ(combo->currentIndex(), -1);
+  form.ApplyAll();
+  EXPECT_EQ(form.m_nChoice, -1);
+
+  cComboCtrl& ctrl = form.m_vecCombo[0];
+  ctrl.m_Init.pValues = nullptr;  // plain rows: value = row
+  ctrl.m_Rules.Bind(ctrl.m_Init);
+  form.m_nChoice = 2;
+  form.UpdateAll();
+  ctrl.SetLabels(VECTOR_CLASS<std::string>{"a", "b"});
+  EXPECT_EQ(combo->count(), 2);
+  EXPECT_EQ(combo->currentIndex(), 1);
+  form.End(0);
+}
+
+}  // namespace

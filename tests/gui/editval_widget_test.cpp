@@ -1,0 +1,135 @@
+#include <gtest/gtest.h>
+
+#include <QFocusEvent>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QTest>
+
+#include "platform/cp932.h"
+#include "toolkit/ctrls.h"
+#include "toolkit/dlg_class.h"
+#include "toolkit/form_layout.h"
+#include "toolkit/widgets.h"
+
+namespace {
+
+class DLG_NUMBERS : public DLG_CLASS {
+ public:
+  enum : unsigned { kFive = 1100, kSigned = 1101, kByte = 1102, kByteSpin = 1103, kHundredth = 1104 };
+  DLG_NUMBERS() : DLG_CLASS(901, nullptr) {
+    Declare(m_vecInt, {{kFive, &m_nFive, 5, 10}, {kSigned, &m_nSigned, -5, 10}});
+    Declare(m_vecByte, {{kByte, &m_byByte, 0, 255, kByteSpin, 1}});
+    Declare(m_vecDouble, {{kHundredth, &m_dHundredth, 0, 100, 0, 0.01}});
+  }
+  void Layout(cFormLayout& L) override {
+    L.EditVal(kFive).EditVal(kSigned).Row().EditVal(kByte, kByteSpin).EditVal(kHundredth);
+  }
+  void OnInitDialog() override {
+    DLG_CLASS::OnInitDialog();
+    Bind(m_vecInt);
+    Bind(m_vecByte);
+    Bind(m_vecDouble);
+    UpdateAll();
+    m_bReady = 1;
+  }
+  void OnCommand(unsigned id, unsigned code) override {
+    DLG_CLASS::OnCommand(id, code);
+    if (code == kNotifyEditUpdate) ++m_nUpdates;
+  }
+  QLineEdit* Edit(unsigned id) { return static_cast<QLineEdit*>(GetDlgItem(id)); }
+
+  int m_nFive = 7, m_nSigned = 3;
+  unsigned char m_byByte = 9;
+  double m_dHundredth = 0;
+  int m_nUpdates = 0;
+  VECTOR_CLASS<CTRL_EDITVAL_CLASS<int>> m_vecInt;
+  VECTOR_CLASS<CTRL_EDITVAL_CLASS<unsigned char>> m_vecByte;
+  VECTOR_CLASS<CTRL_EDITVAL_CLASS<double>> m_vecDouble;
+};
+
+class NumberEdit : public ::testing::Test {
+ protected:
+  void SetUp() override { ASSERT_TRUE(m_Form.Create(0, false)); }
+  void TearDown() override { m_Form.End(0); }
+  // The user empties the box and types `keys`.
+  QLineEdit* Type(unsigned id, const char* keys) {
+    QLineEdit* e = m_Form.Edit(id);
+    e->selectAll();
+    QTest::keyClick(e, Qt::Key_Backspace);
+    QTest::keyClicks(e, keys);
+    return e;
+  }
+  void LeaveBox(unsigned id) {
+    QFocusEvent out(QEvent::FocusOut, Qt::TabFocusReason);
+    QApplication::sendEvent(m_Form.Edit(id), &out);
+  }
+  DLG_NUMBERS m_Form;
+};
+
+TEST_F(NumberEdit, TypedTextFollowsTheRulesAtEachKeystroke) {
+  struct Case {
+    unsigned id;
+    const char* keys;
+    const char* shown;
+  } cases[] = {
+      {DLG_NUMBERS::kByte, "30", "30"},  {DLG_NUMBERS::kByte, "300", "255"},  // the kind's limit while typing
+      {DLG_NUMBERS::kSigned, "-", "-"},  {DLG_NUMBERS::kSigned, "-0", "-0"},
+      {DLG_NUMBERS::kSigned, "1.", "1"}, {DLG_NUMBERS::kSigned, "12", "10"},  // the range at once
+      {DLG_NUMBERS::kByte, "1a2", "12"},  // refused characters vanish
+      {DLG_NUMBERS::kHundredth, "1.", "1."}, {DLG_NUMBERS::kHundredth, "1.234", "1.234"},
+      {DLG_NUMBERS::kFive, "", ""},
+  };
+  for (const Case& c : cases) EXPECT_EQ(Type(c.id, c.keys)->text().toStdString(), c.shown) << c.keys;
+}
+
+TEST_F(NumberEdit, LeavingABoxNormalisesItAndApplyClampsToTheRange) {
+  Type(DLG_NUMBERS::kFive, "");
+  LeaveBox(DLG_NUMBERS::kFive);
+  EXPECT_EQ(m_Form.Edit(DLG_NUMBERS::kFive)->text(), "5");
+  Type(DLG_NUMBERS::kSigned, "");
+  LeaveBox(DLG_NUMBERS::kSigned);
+  EXPECT_EQ(m_Form.Edit(DLG_NUMBERS::kSigned)->text(), "0");
+  Type(DLG_NUMBERS::kHundredth, "1.234");
+  LeaveBox(DLG_NUMBERS::kHundredth);
+  EXPECT_EQ(m_Form.Edit(DLG_NUMBERS::kHundredth)->text(), "1.23");
+  QLineEdit* byte = Type(DLG_NUMBERS::kByte, "250");
+  EXPECT_EQ(byte->text(), "250");
+  EXPECT_EQ(m_Form.m_byByte, 9);   // nothing reaches the field before Apply
+  m_Form.ApplyAll();
+  EXPECT_EQ(m_Form.m_byByte, 250);
+  EXPECT_DOUBLE_EQ(m_Form.m_dHundredth, 1.23);
+  EXPECT_EQ(m_Form.m_nFive, 5);
+}
+
+TEST_F(NumberEdit, SpinClicksCountFromTheBoxAndReachTheFormAsChanges) {
+  Type(DLG_NUMBERS::kByte, "");
+  const int updates = m_Form.m_nUpdates;
+  auto* spin = static_cast<cSpinButtons*>(m_Form.GetDlgItem(DLG_NUMBERS::kByteSpin));
+  spin->Click(+1);
+  EXPECT_EQ(m_Form.Edit(DLG_NUMBERS::kByte)->text(), "1");
+  spin->Click(-1);
+  spin->Click(-1);
+  EXPECT_EQ(m_Form.Edit(DLG_NUMBERS::kByte)->text(), "0");
+  EXPECT_EQ(m_Form.m_nUpdates, updates + 3);
+}
+
+TEST_F(NumberEdit, InputMethodResultsArriveAsDigitsAndCompositionsStayOut) {
+  QLineEdit* e = Type(DLG_NUMBERS::kByte, "");
+  const int updates = m_Form.m_nUpdates;
+  QInputMethodEvent composing(QString::fromUtf8("１"), {});
+  QApplication::sendEvent(e, &composing);
+  EXPECT_EQ(e->text(), "");
+  EXPECT_EQ(m_Form.m_nUpdates, updates);
+  QInputMethodEvent commit;
+  commit.setCommitString(QString::fromUtf8("１あ２"));
+  QApplication::sendEvent(e, &commit);
+  EXPECT_EQ(e->text(), "12");
+  EXPECT_EQ(m_Form.m_nUpdates, updates + 1);
+  QInputMethodEvent other;
+  other.setCommitString(QString::fromUtf8("かな"));
+  QApplication::sendEvent(e, &other);
+  EXPECT_EQ(e->text(), "12");
+  EXPECT_EQ(m_Form.m_nUpdates, updates + 1);
+}
+
+}  // namespace

@@ -1,0 +1,214 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QScreen>
+#include <QTest>
+#include <QTimer>
+
+#include "database/record_stream.h"
+#include "platform/cp932.h"
+#include "gui/sample_form.h"
+
+namespace {
+
+cSkill SampleSkill() {
+  cSkill s;
+  s.m_strName = CP932_TEXT("火炎");
+  s.m_nPrice = 120;
+  s.m_nCostSP = 7;
+  s.m_nKind = 1;
+  return s;
+}
+
+void Click(DLG_CLASS& form, unsigned id) { static_cast<QAbstractButton*>(form.GetDlgItem(id))->click(); }
+
+// Runs the form modally; `during` acts on the open window.
+int RunModal(DLG_CLASS& form, std::function<void()> during) {
+  QTimer::singleShot(0, [during] { during(); });
+  return form.DoModal();
+}
+
+// The user edits every kind of control, then closes with `button`.
+void EditAndClose(DLG_SAMPLE& form, unsigned button) {
+  auto* price = static_cast<QLineEdit*>(form.GetDlgItem(DLG_SAMPLE::kPrice));
+  price->selectAll();
+  QTest::keyClicks(price, "345");
+  auto* name = static_cast<QLineEdit*>(form.GetDlgItem(DLG_SAMPLE::kName));
+  QTest::keyClick(name, Qt::Key_End);
+  QTest::keyClicks(name, "X");
+  Click(form, DLG_SAMPLE::kUnlimited);
+  auto* kind = static_cast<QComboBox*>(form.GetDlgItem(DLG_SAMPLE::kKind));
+  kind->setCurrentIndex(2);
+  emit kind->activated(2);
+  Click(form, button);
+}
+
+TEST(FormPattern, CancelLeavesTheSourceAsItWasAndOkCopiesTheEditsBack) {
+  for (unsigned button : {unsigned{kIdCancel}, unsigned{kIdOk}}) {
+    cSkill source = SampleSkill();
+    const std::vector<unsigned char> before = SavedStream(source);
+    DLG_SAMPLE form(source);
+    const int result = RunModal(form, [&] { EditAndClose(form, button); });
+    if (result == 1) source.Copy(form.m_Work);
+    if (button == kIdCancel) {
+      EXPECT_EQ(result, 0);
+      EXPECT_EQ(SavedStream(source), before);
+      continue;
+    }
+    EXPECT_EQ(result, 1);
+    EXPECT_EQ(source.m_nPrice, 345);
+    EXPECT_EQ(source.m_strName, CP932_TEXT("火炎X"));
+    EXPECT_EQ(source.m_bUnlimited, 1);
+    EXPECT_EQ(source.m_nKind, 2);
+    EXPECT_EQ(source.m_nCostSP, 7);
+    EXPECT_TRUE(form.m_vecCtrl.empty());  // End forgets the controls
+    EXPECT_FALSE(form.m_hWnd);
+  }
+}
+
+TEST(FormPattern, ValueChangesRunTheEnablingRulesAndOtherCommandsDoNot) {
+  DLG_SAMPLE form(SampleSkill());
+  RunModal(form, [&] {
+    const int before = form.m_nEnableRuns;
+    Click(form, DLG_SAMPLE::kUnlimited);
+    EXPECT_EQ(form.m_nEnableRuns, before + 1);
+    EXPECT_FALSE(form.GetDlgItem(DLG_SAMPLE::kPrice)->isEnabled());
+    form.SendCommand(DLG_SAMPLE::kKind, kNotifyListKillFocus);  // no value change of a combo
+    form.SendCommand(40001, kNotifyClicked);                  // no control of the form
+    EXPECT_EQ(form.m_nEnableRuns, before + 1);
+    Click(form, kIdCancel);
+  });
+}
+
+TEST(FormPattern, ACommandRaisedWhileOneIsHandledIsDropped) {
+  DLG_SAMPLE form(SampleSkill());
+  bool nestedRan = true;
+  form.onReset = [&] {
+    Click(form, DLG_SAMPLE::kUnlimited);  // the widget changes, its command does not arrive
+    nestedRan = form.SendCommand(kIdOk, kNotifyClicked);
+  };
+  const int result = RunModal(form, [&] {
+    Click(form, DLG_SAMPLE::kReset);
+    EXPECT_EQ(form.m_vecSeen.size(), 1u);
+    EXPECT_EQ(form.m_vecSeen[0].first, DLG_SAMPLE::kReset);
+    EXPECT_EQ(form.m_bInCommand, 0);
+    Click(form, kIdCancel);
+  });
+  EXPECT_FALSE(nestedRan);
+  EXPECT_EQ(result, 0);
+}
+
+TEST(FormPattern, ProgrammaticChangesNeverNotifyNorWriteBack) {
+  cSkill source = SampleSkill();
+  DLG_SAMPLE form(source);
+  RunModal(form, [&] {
+    form.m_vecSeen.clear();
+    form.m_Work.m_nPrice = 777;
+    form.m_Work.m_bUnlimited = 1;
+    form.m_Work.m_nKind = 0;
+    form.m_Work.m_strName = "abc";
+    form.UpdateAll();
+    EXPECT_TRUE(form.m_vecSeen.empty());
+    EXPECT_EQ(static_cast<QLineEdit*>(form.GetDlgItem(DLG_SAMPLE::kPrice))->text(), "777");
+    EXPECT_TRUE(static_cast<QCheckBox*>(form.GetDlgItem(DLG_SAMPLE::kUnlimited))->isChecked());
+    EXPECT_EQ(static_cast<QComboBox*>(form.GetDlgItem(DLG_SAMPLE::kKind))->currentIndex(), 0);
+    EXPECT_EQ(static_cast<QLineEdit*>(form.GetDlgItem(DLG_SAMPLE::kName))->text(), "abc");
+    // Apply while the form is updating leaves every field alone.
+    static_cast<QLineEdit*>(form.GetDlgItem(DLG_SAMPLE::kPrice))->setText("5");
+    form.m_bUpdating = 1;
+    form.ApplyAll();
+    form.m_bUpdating = 0;
+    EXPECT_EQ(form.m_Work.m_nPrice, 777);
+    Click(form, kIdCancel);
+  });
+}
+
+TEST(FormPattern, DoModalOnAnOpenFormReturnsZeroAndChangesNothing) {
+  DLG_SAMPLE form(SampleSkill());
+  int nested = -1;
+  const int result = RunModal(form, [&] {
+    QWidget* window = form.m_hWnd;
+    const std::size_t controls = form.m_vecCtrl.size();
+    nested = form.DoModal();
+    EXPECT_EQ(form.m_hWnd.data(), window);
+    EXPECT_EQ(form.m_vecCtrl.size(), controls);
+    Click(form, kIdOk);
+  });
+  EXPECT_EQ(nested, 0);
+  EXPECT_EQ(result, 1);
+}
+
+TEST(FormPattern, AMissingControlIsReportedAndLeftUnbound) {
+  cSkill source = SampleSkill();
+  DLG_SAMPLE form(source);
+  Declare(form.m_vecCombo, {{4321, &form.m_Work.m_nKind, kSampleKinds}});
+  ASSERT_TRUE(form.Create(0, false));
+  EXPECT_EQ(form.GetCtrl<cComboCtrl>(4321), nullptr);
+  form.EnableCtrl(4321, false);  // does nothing
+  form.End(0);
+}
+
+TEST(Placement, WindowsStayInsideTheWorkArea) {
+  const QRect work(0, 0, 800, 600);
+  struct Case {
+    QPoint pos;
+    QSize size;
+    QPoint expected;
+  } cases[] = {
+      {{-5, 10}, {200, 100}, {0, 10}},     // negative becomes 0
+      {{700, 550}, {200, 100}, {600, 500}},  // pulled back by the overflow
+      {{100, 100}, {200, 100}, {100, 100}},
+      {{-50, -50}, {900, 700}, {0, 0}},    // larger than the work area: near edge stays
+  };
+  for (const Case& c : cases) EXPECT_EQ(PlaceInWorkArea(c.pos, c.size, work), c.expected);
+  EXPECT_EQ(PlaceInWorkArea({5, 5}, {10, 10}, QRect(100, 50, 300, 300)), QPoint(100, 50));
+
+  DLG_SAMPLE form(SampleSkill());
+  form.m_nX = -5;
+  form.m_nY = 20;
+  RunModal(form, [&] {
+    EXPECT_EQ(form.m_hWnd->x(), QGuiApplication::primaryScreen()->availableGeometry().left());
+    Click(form, kIdCancel);
+  });
+}
+
+TEST(ContextMenu, OpensOnAReleaseOnlyAfterTheButtonWasSeenUp) {
+  cRightClickEdge edge;
+  EXPECT_FALSE(edge.Poll(false, false, true, true));  // first look arms
+  EXPECT_FALSE(edge.Poll(false, true, true, true));   // left held
+  EXPECT_FALSE(edge.Poll(false, false, true, false));  // window not current
+  EXPECT_TRUE(edge.Poll(false, false, true, true));
+  EXPECT_FALSE(edge.Poll(false, false, true, true));  // disarmed until seen up again
+  cRightClickEdge held;
+  EXPECT_FALSE(held.Poll(true, false, false, true));  // held when the window opened
+  EXPECT_FALSE(held.Poll(true, false, false, true));
+}
+
+TEST(Registry, ModelessFormsJoinWhileOpenAndTheirFlagsAreUndone) {
+  DLG_SAMPLE other(SampleSkill());
+  ASSERT_TRUE(other.Create(0, true));
+  EXPECT_TRUE(g_WndList.Contains(&other));
+  DLG_SAMPLE form(SampleSkill());
+  RunModal(form, [&] {
+    EXPECT_TRUE(other.m_hWnd->isVisible());
+    Click(form, kIdCancel);
+  });
+  form.m_vecSeen.clear();
+  QTimer::singleShot(0, [&] {
+    EXPECT_FALSE(other.m_hWnd->isVisible());
+    EXPECT_FALSE(other.m_hWnd->isEnabled());
+    Click(form, kIdCancel);
+  });
+  form.DoModal(kDlgHideOthers | kDlgDisableOthers);
+  EXPECT_TRUE(other.m_hWnd->isVisible());
+  EXPECT_TRUE(other.m_hWnd->isEnabled());
+  EXPECT_FALSE(other.Create());  // one window per object
+  other.End(0);
+  EXPECT_FALSE(g_WndList.Contains(&other));
+  EXPECT_FALSE(other.m_hWnd);
+}
+
+}  // namespace
