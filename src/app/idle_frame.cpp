@@ -1,0 +1,40 @@
+#include "app/idle_frame.h"
+
+#include "app/app_frame.h"
+#include "platform/clock.h"
+
+cIdleClients g_IdleClients;
+cFrameCounter g_FrameCounter;
+
+bool IdleFramesWanted(bool bAnimatedPreview, int bAppActive, int bTestPlay) {
+  return bAnimatedPreview && bAppActive != 0 && bTestPlay == 0;
+}
+
+void cFrameCounter::Tick(std::uint32_t nowMs) {
+  if (!m_bStarted) {
+    m_bStarted = true;
+    m_nSecondStart = nowMs;
+  }
+  ++m_nCount;
+  if (nowMs - m_nSecondStart >= 1000) {  // unsigned: the clock may wrap
+    m_nLastSecond = m_nCount;
+    m_nCount = 0;
+    m_nSecondStart = nowMs;
+  }
+}
+
+bool IdleFramesWantedNow() {
+  bool preview = g_IdleClients.animatedPreviewShown != nullptr && g_IdleClients.animatedPreviewShown();
+  return IdleFramesWanted(preview, g_bAppActive, bTestPlay);
+}
+
+bool IdleFrame() {
+  if (g_pDlgMain == nullptr) return true;
+  if (g_bFocusRequest) {
+    g_bFocusRequest = 0;
+    if (g_IdleClients.focusMain != nullptr) g_IdleClients.focusMain();
+  }
+  g_FrameCounter.Tick(GetTickMs());
+  if (g_IdleClients.giveFrames != nullptr) g_IdleClients.giveFrames();
+  return true;
+}

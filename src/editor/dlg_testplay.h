@@ -1,0 +1,55 @@
+#pragma once
+// DLG_TESTPLAY, the test play settings form. Its controls are bound to g_TestPlay
+// itself: OK commits them and writes "e_data\Testplay.dat"; Cancel drops what was not
+// committed. A path chosen with "参照" goes into the record at once.
+
+#include <functional>
+#include <string>
+
+#include "toolkit/ctrls.h"
+#include "toolkit/dlg_class.h"
+
+class DLG_TESTPLAY : public DLG_CLASS {
+ public:
+  enum : unsigned {
+    kIdBrowse = 1371,
+    kIdGamePath = 1372,
+    kIdAutoFind = 1373,
+    kIdNoRandomGrowth = 1374,
+    kIdNoRandomSense = 1375,
+    kIdSkillLevel = 1627,
+    kIdTraining = 1628,
+    kIdRandomSkill = 1659,
+  };
+  static constexpr int kTemplateId = 232;
+  static constexpr int kGamePathBytes = 261;
+
+  explicit DLG_TESTPLAY(QWidget* parent);
+  ~DLG_TESTPLAY() override;
+
+  void UpdateEnable() override;
+  void OnCommand(unsigned id, unsigned code) override;
+
+  VECTOR_CLASS<CTRL_EDITSTR_CLASS> m_vecEditStr;
+  VECTOR_CLASS<CTRL_CHECK_CLASS<int>> m_vecCheck;
+  VECTOR_CLASS<cComboCtrl> m_vecCombo;
+  VECTOR_CLASS<CTRL_BUTTON_CLASS> m_vecButton;
+
+ protected:
+  void Layout(cFormLayout& L) override;
+  void OnInitDialog() override;
+
+ private:
+  void Browse();
+};
+
+extern DLG_TESTPLAY* g_pDlgTestPlay;
+
+// The stored form of a chosen program: relative to the current directory, "\" between
+// components, CP932. False, with `stored` untouched, when no such form exists.
+bool GamePathOf(const std::string& native, std::string& stored);
+
+// The menu command: the form, modal.
+int RunTestPlaySettings(QWidget* parent);
+// Opens the form, hands its window to `look` once it is laid out, and closes it.
+void ShowTestPlaySettingsFor(const std::function<void(QWidget*)>& look);

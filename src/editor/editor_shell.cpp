@@ -1,0 +1,64 @@
+#include "editor/editor_shell.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include "app/diagnostics.h"
+#include "app/idle_frame.h"
+#include "app/main_window_link.h"
+#include "editor/dlg_battle_mode.h"
+#include "editor/dlg_main.h"
+#include "editor/idle_timer.h"
+#include "editor/screenshot.h"
+#include "editor/view_main.h"
+
+namespace {
+
+void PostCloseOfMain() {
+  if (g_pViewMain != nullptr) QTimer::singleShot(0, g_pViewMain, [] { g_pViewMain->close(); });
+}
+
+// A bad index ends the run at once, without the question.
+void DestroyMain() {
+  if (g_pViewMain == nullptr) return;
+  g_pViewMain->m_bAskOnClose = false;
+  QTimer::singleShot(0, g_pViewMain, [] { g_pViewMain->close(); });
+}
+
+void FocusMain() {
+  if (g_pDlgMain != nullptr) g_pDlgMain->setFocus();
+}
+
+}  // namespace
+
+cEditorShell::cEditorShell() = default;
+
+cEditorShell::~cEditorShell() {
+  g_pDlgMain = nullptr;
+  g_IdleClients.focusMain = nullptr;
+  SetMainWindowHandlers(nullptr, nullptr);
+  SetActiveWindowForBoxes(nullptr);
+}
+
+int cEditorShell::BattleModeDialog() { return RunBattleModeDialog(); }
+
+int cEditorShell::CreateMainWindow() {
+  m_pView = std::make_unique<VIEW_MAIN>();
+  m_pView->show();
+  g_pDlgMain = m_pView->Dlg();
+  SetMainWindowHandlers(PostCloseOfMain, DestroyMain);
+  SetActiveWindowForBoxes(m_pView.get());
+  g_IdleClients.focusMain = FocusMain;
+  m_pIdle = std::make_unique<cIdleTimer>();
+  m_pIdle->Reconsider();
+  g_pDlgMain->UpdateScrollRanges();
+  g_pDlgMain->setFocus();
+  return 1;
+}
+
+int cEditorShell::RunLoop() {
+  ScheduleScreenshots();
+  int result = QApplication::exec();
+  g_pDlgMain = nullptr;
+  return result;
+}

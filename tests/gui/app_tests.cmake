@@ -1,0 +1,15 @@
+# The editor's start, main window and first forms, on a project made from the template.
+target_sources(ortalune_gui_tests PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/../support/test_env.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/app_test_support.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/app_start_test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/main_window_test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/testplay_form_test.cpp
+)
+target_compile_definitions(ortalune_gui_tests PRIVATE ORTALUNE_TEMPLATE_DIR="${CMAKE_BINARY_DIR}/share/ortalune/template")
+add_dependencies(ortalune_gui_tests ortalune-template)
+
+# The editor at rest on a virtual display: no processor time over ten seconds.
+add_test(NAME EditorIdleCpu
+  COMMAND ${CMAKE_CURRENT_LIST_DIR}/app_idle_cpu.sh $<TARGET_FILE:ortalune> ${CMAKE_BINARY_DIR}/share/ortalune/template 10)
+set_tests_properties(EditorIdleCpu PROPERTIES LABELS slow TIMEOUT 60)
