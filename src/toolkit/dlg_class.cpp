@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
@@ -38,7 +39,8 @@ class cFormEvents : public QObject {
  public:
   bool eventFilter(QObject* o, QEvent* e) override {
     switch (e->type()) {
-      case QEvent::KeyPress: Key(o, static_cast<QKeyEvent*>(e)); break;
+      case QEvent::KeyPress: return Key(o, static_cast<QKeyEvent*>(e));
+      case QEvent::InputMethod: Compose(o, static_cast<QInputMethodEvent*>(e)); break;
       case QEvent::MouseButtonPress:
       case QEvent::MouseButtonRelease:
       case QEvent::MouseMove: Mouse(o, static_cast<QMouseEvent*>(e)); break;
@@ -48,19 +50,30 @@ class cFormEvents : public QObject {
   }
 
  private:
-  static void Key(QObject* o, QKeyEvent* e) {
+  // True to swallow the key.
+  bool Key(QObject* o, QKeyEvent* e) {
     // The first receiver only: an ignored key travels on to the parents.
     QWidget* focus = QApplication::focusWidget();
     auto* w = qobject_cast<QWidget*>(o);
-    if (w == nullptr || (focus != nullptr ? w != focus : !w->isWindow())) return;
+    if (w == nullptr || (focus != nullptr ? w != focus : !w->isWindow())) return false;
     DLG_CLASS* form = FormOf(o);
     const int vk = VirtualKeyOf(e->key());
-    if (form == nullptr || vk == 0) return;
+    // Keys of a composition belong to the input method; Tab stays with the focus chain.
+    if (form == nullptr || vk == 0 || vk == 9 || Composing()) return false;
+    if (vk == 27 && form->m_bHoldEsc) return true;
     const bool ctrl = e->modifiers() & Qt::ControlModifier;
     // A modeless form takes Control keys through its accelerators.
-    if (form->m_bModeless && ctrl) return;
+    if (form->m_bModeless && ctrl) return false;
     form->OnKeyDown(vk, ctrl);
+    return false;
   }
+  // A composition lasts from the first preedit text to the event that clears it, and
+  // only while its widget keeps the focus.
+  void Compose(QObject* o, QInputMethodEvent* e) {
+    if (e->preeditString().isEmpty()) m_pComposing = nullptr;
+    else if (o == QApplication::focusWidget()) m_pComposing = static_cast<QWidget*>(o);
+  }
+  bool Composing() const { return m_pComposing && m_pComposing == QApplication::focusWidget(); }
   static void Mouse(QObject* o, QMouseEvent* e) {
     DLG_CLASS* form = FormOf(o);
     if (form == nullptr || !form->m_bReady) return;
@@ -69,6 +82,7 @@ class cFormEvents : public QObject {
                                form->IsCurrent()))
       form->OnContextMenu(e->globalPosition().toPoint());
   }
+  QPointer<QWidget> m_pComposing;
 };
 
 void InstallFormEvents() {

@@ -155,6 +155,7 @@ class DLG_CLASS : public WND_CLASS, public cListCommandHost {
   int m_nResult = 0;
   WND_CLASS* m_lpParentClass = nullptr;
   int m_bUpdating = 0;
+  int m_bHoldEsc = 0;  // Escape is swallowed, not passed to the form nor its window
   std::vector<CTRL_CLASS*> m_vecCtrl;
   CTRL_SCROLL_CLASS* m_pScrollH = nullptr;
   CTRL_SCROLL_CLASS* m_pScrollV = nullptr;

@@ -14,12 +14,6 @@
 #include "platform/cp932.h"
 #include "toolkit/editval_rules.h"
 
-namespace {
-
-bool IsBackspace(const QKeyEvent* e) { return e->key() == Qt::Key_Backspace; }
-
-}  // namespace
-
 cNumberEdit::cNumberEdit(QWidget* parent) : QLineEdit(parent) {
   connect(this, &QLineEdit::textEdited, this, [this] {
     if (onEdited) onEdited();
@@ -58,39 +52,18 @@ void cNumberEdit::focusOutEvent(QFocusEvent* e) {
   if (e->reason() != Qt::PopupFocusReason && onFocusOut) onFocusOut();
 }
 
-cTextLine::cTextLine(QWidget* parent) : QLineEdit(parent) {
+template <>
+cTextLine::cTextEditOf(QWidget* parent) : QLineEdit(parent) {
   connect(this, &QLineEdit::textEdited, this, [this] {
     if (onEdited) onEdited();
   });
 }
 
-void cTextLine::keyPressEvent(QKeyEvent* e) {
-  m_bBackspace = IsBackspace(e);
-  QLineEdit::keyPressEvent(e);
-  m_bBackspace = false;
-}
-
-void cTextLine::focusOutEvent(QFocusEvent* e) {
-  QLineEdit::focusOutEvent(e);
-  if (e->reason() != Qt::PopupFocusReason && onFocusOut) onFocusOut();
-}
-
-cTextBox::cTextBox(QWidget* parent) : QPlainTextEdit(parent) {
-  // Only the user's edits arrive here: the program writes with the signals blocked.
+template <>
+cTextBox::cTextEditOf(QWidget* parent) : QPlainTextEdit(parent) {
   connect(this, &QPlainTextEdit::textChanged, this, [this] {
     if (onEdited) onEdited();
   });
-}
-
-void cTextBox::keyPressEvent(QKeyEvent* e) {
-  m_bBackspace = IsBackspace(e);
-  QPlainTextEdit::keyPressEvent(e);
-  m_bBackspace = false;
-}
-
-void cTextBox::focusOutEvent(QFocusEvent* e) {
-  QPlainTextEdit::focusOutEvent(e);
-  if (e->reason() != Qt::PopupFocusReason && onFocusOut) onFocusOut();
 }
 
 cSpinButtons::cSpinButtons(QWidget* parent) : QWidget(parent) {

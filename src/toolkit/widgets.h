@@ -3,6 +3,8 @@
 // user's actions through its callbacks, which the layout connects to the form's
 // command path. Writes by the program go around the callbacks.
 
+#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -25,39 +27,34 @@ class cNumberEdit : public QLineEdit {
   void focusOutEvent(QFocusEvent* e) override;
 };
 
-// A one-line text field that tells whether Backspace made the edit.
-class cTextLine : public QLineEdit {
+// A text field that tells whether Backspace made the edit in progress, since the text
+// edit's rules join lines on Backspace only: one line (QLineEdit) or several
+// (QPlainTextEdit). Only the user's edits reach onEdited: the program writes with the
+// signals blocked.
+template <class Base>
+class cTextEditOf : public Base {
  public:
-  explicit cTextLine(QWidget* parent = nullptr);
+  explicit cTextEditOf(QWidget* parent = nullptr);
   std::function<void()> onEdited;
   std::function<void()> onFocusOut;
-  // True while the edit in progress was made with Backspace.
   bool EditByBackspace() const { return m_bBackspace; }
 
  protected:
-  void keyPressEvent(QKeyEvent* e) override;
-  void focusOutEvent(QFocusEvent* e) override;
+  void keyPressEvent(QKeyEvent* e) override {
+    m_bBackspace = e->key() == Qt::Key_Backspace;
+    Base::keyPressEvent(e);
+    m_bBackspace = false;
+  }
+  void focusOutEvent(QFocusEvent* e) override {
+    Base::focusOutEvent(e);
+    if (e->reason() != Qt::PopupFocusReason && onFocusOut) onFocusOut();
+  }
 
  private:
   bool m_bBackspace = false;
 };
-
-// A text box of several lines, likewise.
-class cTextBox : public QPlainTextEdit {
- public:
-  explicit cTextBox(QWidget* parent = nullptr);
-  std::function<void()> onEdited;
-  std::function<void()> onFocusOut;
-  // True while the edit in progress was made with Backspace.
-  bool EditByBackspace() const { return m_bBackspace; }
-
- protected:
-  void keyPressEvent(QKeyEvent* e) override;
-  void focusOutEvent(QFocusEvent* e) override;
-
- private:
-  bool m_bBackspace = false;
-};
+using cTextLine = cTextEditOf<QLineEdit>;
+using cTextBox = cTextEditOf<QPlainTextEdit>;
 
 // Two arrow buttons; each click reports +1 (up) or -1 (down).
 class cSpinButtons : public QWidget {
