@@ -8,8 +8,12 @@ template=$2
 seconds=${3:-10}
 work=$(mktemp -d)
 pid=
+group=
 cleanup() {
   [[ -n $pid ]] && kill "$pid" 2>/dev/null || true
+  # The virtual display and its wrapper go with their process group, also when this
+  # script is stopped by a time limit.
+  [[ -n $group ]] && kill -- "-$group" 2>/dev/null || true
   sleep 0.5
   rm -rf "$work"
 }
@@ -24,7 +28,12 @@ cd "$work/project"
 ticks() { sed 's/.*) //' "/proc/$1/stat" | awk '{ print $12 + $13 }'; }
 
 export ASAN_OPTIONS=detect_leaks=0
-xvfb-run -a -s "-screen 0 1024x768x24" bash -c '"$1" & echo $! > "$2"; wait' _ "$editor" "$work/pid" &
+# A lock of its own, so that an editor running elsewhere does not make this one ask
+# whether to start twice, with nobody to answer.
+export XDG_RUNTIME_DIR=$work/run
+mkdir -m 700 "$XDG_RUNTIME_DIR"
+setsid timeout $((seconds + 40)) xvfb-run -a -s "-screen 0 1024x768x24" bash -c '"$1" & echo $! > "$2"; wait' _ "$editor" "$work/pid" &
+group=$!
 for _ in $(seq 100); do [[ -s $work/pid ]] && break; sleep 0.1; done
 pid=$(cat "$work/pid")
 sleep 3  # the start-up itself
