@@ -2,10 +2,19 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 void cMixer::Add(cMixSource* source) {
-  std::lock_guard lock(m_lock);
-  if (std::find(m_sources.begin(), m_sources.end(), source) == m_sources.end()) m_sources.push_back(source);
+  {
+    std::lock_guard lock(m_lock);
+    if (std::find(m_sources.begin(), m_sources.end(), source) == m_sources.end()) m_sources.push_back(source);
+  }
+  std::function<void()> hook;
+  {
+    std::lock_guard lock(m_hookLock);
+    hook = std::exchange(m_sourceHook, nullptr);
+  }
+  if (hook) hook();
 }
 
 void cMixer::Remove(cMixSource* source) {

@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <functional>
 #include <mutex>
 #include <vector>
 
@@ -30,7 +31,16 @@ class cMixer {
   bool IsOffline() const { return m_bOffline; }
   void SetOffline(bool bOffline) { m_bOffline = bOffline; }
 
+  // Runs once, outside the mixer's lock, when the next source joins: the audio device
+  // opens when something first plays, not before.
+  void SetFirstSourceHook(std::function<void()> hook) {
+    std::lock_guard lock(m_hookLock);
+    m_sourceHook = std::move(hook);
+  }
+
  private:
+  std::mutex m_hookLock;
+  std::function<void()> m_sourceHook;
   std::mutex m_lock;
   std::vector<cMixSource*> m_sources;
   std::atomic<bool> m_bOffline = true;

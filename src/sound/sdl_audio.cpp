@@ -15,6 +15,9 @@ void PullMixer(void* mixer, Uint8* stream, int bytes) {
 }  // namespace
 
 bool OpenAudioDevice(cMixer& mixer, std::string& error) {
+  // SDL would otherwise take SIGINT and SIGTERM for a quit event that nobody reads, and
+  // the editor could no longer be stopped by them.
+  SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) {
     error = SDL_GetError();
     return false;

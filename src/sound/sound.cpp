@@ -10,10 +10,12 @@
 #include "sound/sdl_audio.h"
 #include "sound/sound_engine.h"
 
-cWaveVoice::cWaveVoice() { SoundMixer().Add(this); }
+cWaveVoice::cWaveVoice() = default;
 cWaveVoice::~cWaveVoice() { SoundMixer().Remove(this); }
 
 void cWaveVoice::Start(std::shared_ptr<const std::vector<float>> frames, std::size_t from, bool bFromCurrent) {
+  // The voice joins the mixer at its first sound, which is what opens the device.
+  if (!m_bInMixer) SoundMixer().Add(this), m_bInMixer = true;
   std::lock_guard lock(m_lock);
   if (!bFromCurrent || frames != m_pFrames) m_nPos = std::min(from, frames ? frames->size() / 2 : 0);
   m_pFrames = std::move(frames);

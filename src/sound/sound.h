@@ -42,6 +42,7 @@ class cWaveVoice final : public cMixSource {
   std::shared_ptr<const std::vector<float>> m_pFrames;
   std::size_t m_nPos = 0;
   bool m_bPlaying = false;
+  bool m_bInMixer = false;  // touched by the main thread only
 };
 
 class cSound {

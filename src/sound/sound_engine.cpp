@@ -44,17 +44,23 @@ void OpenSoundEngine(bool bOffline) {
   }
   engine.mixer.SetOffline(true);
   if (bOffline) return;
-  std::string error;
-  if (!OpenAudioDevice(engine.mixer, error)) {
-    ReportLog("Sound: no audio device (%s); the editor runs without sound", error.c_str());
-    return;
-  }
-  engine.mixer.SetOffline(false);
-  engine.bDevice = true;
+  // The device's thread pulls the mixer without pause once it runs, so it is opened
+  // when the first sound plays: an editor that has played nothing takes no processor
+  // time at rest.
+  engine.mixer.SetFirstSourceHook([&engine] {
+    std::string error;
+    if (!OpenAudioDevice(engine.mixer, error)) {
+      ReportLog("Sound: no audio device (%s); the editor runs without sound", error.c_str());
+      return;
+    }
+    engine.mixer.SetOffline(false);
+    engine.bDevice = true;
+  });
 }
 
 void CloseSoundEngine() {
   cSoundEngine& engine = Engine();
+  engine.mixer.SetFirstSourceHook(nullptr);
   if (engine.bDevice) CloseAudioDevice();
   engine.bDevice = false;
   engine.mixer.SetOffline(true);

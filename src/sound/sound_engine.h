@@ -11,7 +11,8 @@ cMixer& SoundMixer();
 // Null when no soundfont could be loaded.
 std::shared_ptr<cSynth> SoundSynth();
 
-// Loads the synthesiser and, unless `bOffline`, opens the audio device. What is missing
+// Loads the synthesiser and, unless `bOffline`, opens the audio device when the first
+// sound plays. What is missing
 // (the device, the soundfont) is said once in the report log, and sound goes on in
 // silence. Offline, the caller pulls SoundMixer() itself.
 void OpenSoundEngine(bool bOffline);

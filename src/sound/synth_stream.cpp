@@ -26,9 +26,7 @@ MMRESULT OpenSynthStream(std::unique_ptr<cMidiStream>& stream, cFeedQueue& queue
 }
 
 cSynthStream::cSynthStream(cMixer& mixer, std::shared_ptr<cSynth> synth, cFeedQueue& queue)
-    : m_mixer(mixer), m_pSynth(std::move(synth)), m_queue(queue) {
-  m_mixer.Add(this);
-}
+    : m_mixer(mixer), m_pSynth(std::move(synth)), m_queue(queue) {}
 
 cSynthStream::~cSynthStream() {
   if (!m_bClosed) Close();
@@ -69,6 +67,10 @@ MMRESULT cSynthStream::Out(MIDIHDR* header) {
 }
 
 MMRESULT cSynthStream::Restart() {
+  // The stream joins the mixer when it first plays, which is what opens the device: a
+  // stream opened at start-up and never played costs no processor time. Outside the
+  // lock, since a block being mixed holds the mixer, then this.
+  if (!m_bInMixer.exchange(true)) m_mixer.Add(this);
   std::lock_guard lock(m_lock);
   // A song's clock starts on the synthesiser's next block, but a song stopped by its
   // own last record and started again at once (a loop) goes on from that record's time.

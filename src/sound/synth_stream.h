@@ -3,6 +3,7 @@
 // the mixer's output, so that each event sounds where its ticks put it whatever the
 // size of the blocks the device is pulled in.
 
+#include <atomic>
 #include <deque>
 #include <memory>
 #include <mutex>
@@ -48,6 +49,7 @@ class cSynthStream final : public cMidiStream, public cMixSource {
   bool m_bPlaying = false;
   bool m_bRewound = true;  // the clock starts afresh at the next Restart
   bool m_bClosed = false;
+  std::atomic<bool> m_bInMixer = false;
   std::uint32_t m_nDivision = 96;
   std::uint32_t m_nTempo = 500000;  // microseconds a quarter note
   std::int64_t m_nNow = 0;          // frames played

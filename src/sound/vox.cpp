@@ -3,6 +3,7 @@
 #include <vorbis/vorbisfile.h>
 
 #include <algorithm>
+#include <atomic>
 #include <mutex>
 #include <vector>
 
@@ -16,7 +17,7 @@ namespace {
 // mixer's rate by linear interpolation between the frames `a` and `b`.
 class cVorbisVox final : public cVox, public cMixSource {
  public:
-  cVorbisVox() { SoundMixer().Add(this); }
+  cVorbisVox() = default;
 
   std::uint8_t Load(const char* path) override {
     std::lock_guard lock(m_lock);
@@ -28,6 +29,9 @@ class cVorbisVox final : public cVox, public cMixSource {
     return 1;
   }
   void Play() override {
+    // Joins the mixer at its first play, which is what opens the device; outside the
+    // lock, since a block being mixed holds the mixer, then this.
+    if (!m_bInMixer.exchange(true)) SoundMixer().Add(this);
     std::lock_guard lock(m_lock);
     if (!m_bOpen) return;
     if (!m_bHaveA) Rewind();
@@ -145,6 +149,7 @@ class cVorbisVox final : public cVox, public cMixSource {
 
   static constexpr int kChunk = 1024;
   std::mutex m_lock;
+  std::atomic<bool> m_bInMixer = false;
   OggVorbis_File m_file{};
   bool m_bOpen = false;
   bool m_bPlaying = false;

@@ -142,3 +142,30 @@ TEST_F(MusicRenderTest, TheSlotVolumeScalesAnOggAndEachPlayStartsAtFullVolume) {
 }
 
 }  // namespace
+
+namespace {
+class cSilentSource : public cMixSource {
+ public:
+  void Mix(float*, int) override {}
+};
+}  // namespace
+
+// The device opens when the first sound joins the mixer: the hook runs once, after the
+// source is in, and may itself add sources without a deadlock.
+TEST(MixerTest, TheFirstSourceHookRunsOnceAfterTheSourceJoins) {
+  cMixer mixer;
+  cSilentSource first, second, third;
+  int calls = 0;
+  mixer.SetFirstSourceHook([&] {
+    ++calls;
+    mixer.Add(&third);
+    std::vector<float> block(8);
+    mixer.Pull(block.data(), 4);  // the mixer's lock is free
+  });
+  mixer.Add(&first);
+  mixer.Add(&second);
+  EXPECT_EQ(calls, 1);
+  mixer.Remove(&first);
+  mixer.Remove(&second);
+  mixer.Remove(&third);
+}
