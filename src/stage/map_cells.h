@@ -114,6 +114,16 @@ class cMapCells {
     return why;
   }
 
+ public:
+  // The cell at (x, y), or null when it lies outside the map or its storage.
+  const int* CellAt(int x, int y) const {
+    const Map& map = Self();
+    if (x < 0 || y < 0 || x >= map.m_nWidth || y >= map.m_nHeight || map.m_nShift < 0 || map.m_nShift > 16)
+      return nullptr;
+    const std::size_t index = CellIndex(x, y);
+    return index < map.m_vecMap.size() ? &map.m_vecMap[index] : nullptr;
+  }
+
  protected:
   std::size_t CellIndex(int x, int y) const {
     return (static_cast<std::size_t>(y) << Self().m_nShift) + static_cast<std::size_t>(x);

@@ -66,7 +66,7 @@ void DrawCells(cSurface& buffer, const MAP_VIEW& view) {
   for (int r = 0; r < view.Rows(); ++r)
     for (int c = 0; c < view.Cols(); ++c) {
       const int px = c * kMapCellPx, py = r * kMapCellPx;
-      const int* cell = MapCellAt(g_Stage, view.m_nScrollX + c, view.m_nScrollY + r);
+      const int* cell = g_Stage.CellAt(view.m_nScrollX + c, view.m_nScrollY + r);
       long long sx = 0, sy = 0;
       const bool chip = cell != nullptr && TerrainChip(*cell, sx, sy);
       if (perCell && !(chip && opaque)) ClearCell(buffer, px, py);

@@ -65,16 +65,6 @@ std::string MapCoordText(int x, int y);
 
 // --- Pieces shared by the stage and the world map views ---
 
-// The cell value at (x, y) of a map with cMapCells' layout, or null when the cell lies
-// outside the map or its storage.
-template <class Map>
-const int* MapCellAt(const Map& map, int x, int y) {
-  if (x < 0 || y < 0 || x >= map.m_nWidth || y >= map.m_nHeight || map.m_nShift < 0 || map.m_nShift > 16)
-    return nullptr;
-  std::size_t index = (static_cast<std::size_t>(y) << map.m_nShift) + static_cast<std::size_t>(x);
-  return index < map.m_vecMap.size() ? &map.m_vecMap[index] : nullptr;
-}
-
 // Whether the 32 x 32 cell at (sx, sy) lies wholly inside the sheet.
 bool SheetHasCell(const cSurface& sheet, long long sx, long long sy);
 

@@ -9,7 +9,7 @@ void DrawChips(cSurface& buffer, const MAP_VIEW& view) {
   const cWorldMap& map = g_WorldMap;
   for (int r = 0; r < view.Rows(); ++r)
     for (int c = 0; c < view.Cols(); ++c) {
-      const int* cell = MapCellAt(map, view.m_nScrollX + c, view.m_nScrollY + r);
+      const int* cell = map.CellAt(view.m_nScrollX + c, view.m_nScrollY + r);
       if (cell == nullptr || *cell < 0 || *cell >= static_cast<int>(map.m_vecChip.size())) continue;
       const int g = map.m_vecChip[static_cast<std::size_t>(*cell)].m_nGraphic;
       if (g >= 0)

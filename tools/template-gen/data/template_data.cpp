@@ -5,10 +5,10 @@
 #include "data/template_data.h"
 
 #include <cstdio>
-#include <fstream>
 #include <iterator>
 
 #include "data/template_parts.h"
+#include "platform/file_io.h"
 #include "platform/stored_path.h"
 #include "project/project_files.h"
 #include "project/project_globals.h"
@@ -43,11 +43,7 @@ class cTemplateScope {
   std::error_code m_error;
 };
 
-bool WriteText(const fs::path& path, const std::string& text) {
-  std::ofstream out(path, std::ios::binary);
-  out << text;
-  return static_cast<bool>(out.flush());
-}
+bool WriteText(const fs::path& path, const std::string& text) { return WriteFileAtomic(path, text.data(), text.size()); }
 
 // The name lists of random names, one name a line.
 bool WriteRandomNames() {
