@@ -1,7 +1,6 @@
 #include "database/compati_type.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "database/label_table.h"
 #include "database/table_rows.h"
@@ -18,10 +17,8 @@ namespace {
 // that table is the one behind the version header.
 int RowsOfTableBeingRead(const cSerialFile* file) {
   constexpr std::size_t kCountAt = sizeof(std::uint32_t);
-  const std::vector<unsigned char>& bytes = file->Bytes();
-  if (bytes.size() < kCountAt + sizeof(std::uint32_t)) return 0;
   std::uint32_t count = 0;
-  std::memcpy(&count, bytes.data() + kCountAt, sizeof count);
+  if (!file->PeekHead(kCountAt, &count, sizeof count)) return 0;
   return count > static_cast<std::uint32_t>(INT32_MAX) ? INT32_MAX : static_cast<int>(count);
 }
 

@@ -1,8 +1,10 @@
 #pragma once
-// An open record file. Reading works on the whole file read at open, through a cursor
-// that never passes the end: a read that would, fails, and so does every read after
-// it. Writing collects the stream in memory and puts it on the disk in one atomic step
-// when the file is closed.
+// An open record file. Reading runs through a cursor that never passes the end: a read
+// that would, fails, and so does every read after it. A file on disk is read in pieces
+// as the cursor reaches them, so that even the largest tables never lie in memory twice.
+// Writing collects the stream in pieces too; a stream bound to a disk file hands each
+// full piece to the file's temporary copy, which replaces the file in one atomic step
+// when the stream is closed.
 
 #include <cstddef>
 #include <cstdint>
@@ -18,27 +20,34 @@ class cSerialFile {
  public:
   enum class Mode { Read, Write };
 
+  // A stream over bytes in memory.
   static std::unique_ptr<cSerialFile> ForReading(std::vector<unsigned char> bytes);
+  // A stream over an open file, from its start to the size it had when it was opened.
+  static std::unique_ptr<cSerialFile> ForReading(std::unique_ptr<cFileReader> source);
   static std::unique_ptr<cSerialFile> ForWriting();
 
   Mode GetMode() const { return m_mode; }
 
   // Reading. False when fewer than `size` bytes remain; the file is then failed.
   bool Read(void* data, std::size_t size) {
-    if (m_bFailed || size > m_bytes.size() - m_pos) return ReadPastEnd();
+    if (m_bFailed || size > m_end - m_pos) return ReadAcross(data, size);
     if (size > 0) std::memcpy(data, m_bytes.data() + m_pos, size);
     m_pos += size;
     return true;
   }
   template <class T>
-  bool ReadValue(T& value) {
-    if (m_bFailed || sizeof value > m_bytes.size() - m_pos) return ReadPastEnd();
+  [[gnu::always_inline]] bool ReadValue(T& value) {
+    if (m_bFailed || sizeof value > m_end - m_pos) return ReadAcross(&value, sizeof value);
     std::memcpy(&value, m_bytes.data() + m_pos, sizeof value);  // a fixed size: no call
     m_pos += sizeof value;
     return true;
   }
-  std::size_t Remaining() const { return m_bFailed ? 0 : m_bytes.size() - m_pos; }
-  std::size_t Position() const { return m_pos; }
+  std::size_t Remaining() const { return m_bFailed ? 0 : m_total - Position(); }
+  std::size_t Position() const { return m_base + m_pos; }
+  // Copies bytes from the first kHeadBytes of the stream, wherever the cursor is. False
+  // when the stream is shorter than offset + size or the range is beyond the head.
+  static constexpr std::size_t kHeadBytes = 16;
+  bool PeekHead(std::size_t offset, void* data, std::size_t size) const;
 
   // Marks the file as failed, with what went wrong, for the caller's report.
   void Fail(const char* what);
@@ -47,30 +56,49 @@ class cSerialFile {
 
   // Writing.
   void Write(const void* data, std::size_t size) {
-    const unsigned char* p = static_cast<const unsigned char*>(data);
-    m_bytes.insert(m_bytes.end(), p, p + size);
+    if (size > m_bytes.size() - m_used) MakeRoom(size);
+    if (size > 0) std::memcpy(m_bytes.data() + m_used, data, size);
+    m_used += size;
   }
   template <class T>
-  void WriteValue(const T& value) {
-    const std::size_t at = m_bytes.size();
-    m_bytes.resize(at + sizeof value);
-    std::memcpy(m_bytes.data() + at, &value, sizeof value);
+  [[gnu::always_inline]] void WriteValue(const T& value) {
+    if (sizeof value > m_bytes.size() - m_used) MakeRoom(sizeof value);
+    std::memcpy(m_bytes.data() + m_used, &value, sizeof value);  // a fixed size: no call
+    m_used += sizeof value;
   }
 
-  const std::vector<unsigned char>& Bytes() const { return m_bytes; }
-  std::vector<unsigned char>& MutableBytes() { return m_bytes; }
+  // The whole stream of a stream written in memory. A stream bound to a disk file holds
+  // only what has not yet been handed to the file.
+  std::vector<unsigned char> Bytes() const { return {m_bytes.begin(), m_bytes.begin() + m_used}; }
 
-  // The disk file a written stream goes to on close; not set for streams in memory.
+  // The disk file a written stream goes to; not opened for streams in memory.
   cAtomicFile& Target() { return m_target; }
+  // Hands what the stream holds to its disk file and commits it. False when any write
+  // or the commit failed; the old file is then untouched.
+  bool CommitToTarget();
 
  private:
   explicit cSerialFile(Mode mode) : m_mode(mode) {}
-  // A read that would pass the end fails the file; always false.
+  // The slow side of reading: a read that crosses into the next piece of the file, or
+  // one that would pass the end, which fails the file.
+  bool ReadAcross(void* data, std::size_t size);
   bool ReadPastEnd();
+  bool Refill();
+  void KeepHead();
+  // Makes room for `size` more bytes: a stream bound to a disk file first hands what it
+  // holds to the file, a stream in memory grows.
+  void MakeRoom(std::size_t size);
 
   Mode m_mode;
-  std::vector<unsigned char> m_bytes;
-  std::size_t m_pos = 0;
+  std::vector<unsigned char> m_bytes;  // reading: the piece under the cursor; writing: room
+  std::size_t m_used = 0;              // writing: bytes of m_bytes in use
+  std::size_t m_pos = 0;               // reading: the cursor within m_bytes
+  std::size_t m_end = 0;               // reading: valid bytes in m_bytes
+  std::size_t m_base = 0;              // reading: where m_bytes starts in the stream
+  std::size_t m_total = 0;             // reading: the stream's length
+  unsigned char m_head[kHeadBytes] = {};
+  std::size_t m_headSize = 0;
+  std::unique_ptr<cFileReader> m_source;
   bool m_bFailed = false;
   std::string m_failure;
   cAtomicFile m_target;

@@ -36,6 +36,34 @@ bool ReadWholeFile(const std::filesystem::path& path, std::vector<unsigned char>
   return true;
 }
 
+cFileReader::~cFileReader() {
+  if (m_fd >= 0) ::close(m_fd);
+}
+
+bool cFileReader::Open(const std::filesystem::path& path) {
+  int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  if (fd < 0) return false;
+  struct stat st {};
+  if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+    ::close(fd);
+    return false;
+  }
+  ::posix_fadvise(fd, 0, 0, POSIX_FADV_SEQUENTIAL);
+  if (m_fd >= 0) ::close(m_fd);
+  m_fd = fd;
+  m_size = static_cast<std::size_t>(st.st_size);
+  return true;
+}
+
+long long cFileReader::ReadSome(void* data, std::size_t size) {
+  if (m_fd < 0) return -1;
+  for (;;) {
+    ssize_t n = ::read(m_fd, data, size);
+    if (n < 0 && errno == EINTR) continue;
+    return n < 0 ? -1 : static_cast<long long>(n);
+  }
+}
+
 cAtomicFile::~cAtomicFile() { Abort(); }
 
 bool cAtomicFile::Create(const std::filesystem::path& target) {

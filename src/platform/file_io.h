@@ -10,6 +10,27 @@
 // then left as it was.
 bool ReadWholeFile(const std::filesystem::path& path, std::vector<unsigned char>& out);
 
+// A regular file read front to back in pieces, for readers that need not hold it whole.
+class cFileReader {
+ public:
+  cFileReader() = default;
+  ~cFileReader();
+  cFileReader(const cFileReader&) = delete;
+  cFileReader& operator=(const cFileReader&) = delete;
+
+  // False when the file cannot be opened or is not a regular file.
+  bool Open(const std::filesystem::path& path);
+  // The size when it was opened.
+  std::size_t Size() const { return m_size; }
+  // Reads up to `size` bytes: how many were read, 0 at the end of the file, -1 on an
+  // error.
+  long long ReadSome(void* data, std::size_t size);
+
+ private:
+  int m_fd = -1;
+  std::size_t m_size = 0;
+};
+
 // A file written beside its target under a temporary name and renamed over the target
 // on Commit, so that a failed or interrupted save never leaves a truncated file.
 class cAtomicFile {

@@ -178,3 +178,37 @@ TEST_F(SerialFileTest, AFailedSaveLeavesNoFileAndNoLitter) {
   for (auto& e : fs::directory_iterator(m_dir)) entries += e.is_regular_file();
   EXPECT_EQ(entries, 1);
 }
+
+// Disk files are read and written a piece at a time; values and whole vectors that
+// straddle the pieces must come through as a stream in memory would.
+TEST_F(SerialFileTest, LargeFilesCrossTheirPiecesWholeAndFailIfTheyShrinkWhileRead) {
+  VECTOR_CLASS<cFieldZoo> zoos(9000);
+  for (int i = 0; i < zoos.Count(); ++i) {
+    zoos[i].m_nInt = i;
+    zoos[i].m_byByte = static_cast<std::uint8_t>(i);
+    zoos[i].m_dDouble = i / 3.0;
+    zoos[i].m_strText = std::string(static_cast<std::size_t>(i % 7), 'a');
+    zoos[i].m_vecByte.assign(static_cast<std::size_t>(i % 5), 0xAB);
+  }
+  zoos[4500].m_vecInt.assign(150000, 5);  // one read and one write larger than a piece
+
+  SerialFilePtr memory = OpenSerialWriteBuffer();
+  WriteRecordVector(zoos, memory.get());
+  ASSERT_EQ(SaveVector(zoos, "big.dat"), 1);
+  const std::vector<unsigned char> disk = FileBytes("big.dat");
+  ASSERT_GT(disk.size(), 1000000u);
+  EXPECT_EQ(disk, memory->Bytes());
+
+  VECTOR_CLASS<cFieldZoo> loaded;
+  ASSERT_EQ(LoadVector(loaded, "big.dat"), 1);
+  ASSERT_EQ(loaded.size(), zoos.size());
+  for (std::size_t i = 0; i < zoos.size(); ++i) ASSERT_TRUE(Compare(loaded[i], zoos[i])) << i;
+
+  // Another program cuts the file while it is being read: the load fails whole.
+  SerialFilePtr reading = OpenSerialRead("big.dat");
+  ASSERT_TRUE(reading);
+  fs::resize_file(Path("big.dat"), disk.size() / 2);
+  EXPECT_EQ(LoadVector(loaded, std::move(reading)), 0);
+  EXPECT_NE(g_strLastSerialFailure.find("shorter"), std::string::npos) << g_strLastSerialFailure;
+  EXPECT_EQ(loaded.size(), zoos.size());
+}
