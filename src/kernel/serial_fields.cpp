@@ -4,13 +4,9 @@
 
 namespace serial_detail {
 
-bool ReadCount(cSerialFile* file, std::size_t minBytesEach, std::uint32_t& count) {
-  if (!file->ReadValue(count)) return false;
-  if (minBytesEach > 0 && count > file->Remaining() / minBytesEach) {
-    file->Fail("a count larger than the rest of the data");
-    return false;
-  }
-  return true;
+bool FailCountTooLarge(cSerialFile* file) {
+  file->Fail("a count larger than the rest of the data");
+  return false;
 }
 
 void WriteCount(cSerialFile* file, std::size_t count) { file->WriteValue(static_cast<std::uint32_t>(count)); }

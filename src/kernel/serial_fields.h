@@ -19,16 +19,29 @@ static_assert(sizeof(int) == 4 && sizeof(double) == 8, "record fields assume 32-
 
 namespace serial_detail {
 
+// The operations of a scalar field that run once per record and action: resetting,
+// copying, comparing, normalising.
 template <class T>
-int Scalar(int op, T& field, const T* other, cSerialFile* file) {
+[[gnu::noinline]] int ScalarRest(int op, T& field, const T* other) {
   switch (op) {
     case SERIAL_INIT: field = T{}; return 1;
     case SERIAL_COPY: if (other != nullptr) field = *other; return 1;
     case SERIAL_COMPARE: return other == nullptr || field == *other;
-    case SERIAL_READ: return file->ReadValue(field);
-    case SERIAL_WRITE: file->WriteValue(field); return 1;
     default: return 1;
   }
+}
+
+// Reading and writing are inlined into every walk: they are a handful of instructions,
+// and the places of every character alone run them tens of millions of times in a large
+// project.
+template <class T>
+[[gnu::always_inline]] inline int Scalar(int op, T& field, const T* other, cSerialFile* file) {
+  if (op == SERIAL_READ) return file->ReadValue(field);
+  if (op == SERIAL_WRITE) {
+    file->WriteValue(field);
+    return 1;
+  }
+  return ScalarRest(op, field, other);
 }
 
 template <class T>
@@ -49,7 +62,14 @@ int PlainArray(int op, T* field, const T* other, int count, cSerialFile* file) {
 // Reads a stored element count. A count that the rest of the file cannot hold, at
 // `minBytesEach` bytes an element, fails the file, so that nothing is allocated beyond
 // what the file could describe.
-bool ReadCount(cSerialFile* file, std::size_t minBytesEach, std::uint32_t& count);
+bool FailCountTooLarge(cSerialFile* file);  // always false
+[[gnu::always_inline]] inline bool ReadCount(cSerialFile* file, std::size_t minBytesEach, std::uint32_t& count) {
+  if (!file->ReadValue(count)) return false;
+  // Counts are 32-bit and element sizes small: the product cannot overflow, and it
+  // spares a division on every vector of every record.
+  if (static_cast<std::uint64_t>(count) * minBytesEach > file->Remaining()) return FailCountTooLarge(file);
+  return true;
+}
 void WriteCount(cSerialFile* file, std::size_t count);
 
 // A vector of plain elements stored back to back: integers, bytes, pairs.
@@ -80,14 +100,14 @@ int PlainVector(int op, VECTOR_CLASS<T>& field, const VECTOR_CLASS<T>* other, cS
 
 }  // namespace serial_detail
 
-inline int SerialInt(int op, std::int32_t& f, const std::int32_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
-inline int SerialInt(int op, std::uint32_t& f, const std::uint32_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
-inline int SerialShort(int op, std::int16_t& f, const std::int16_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
-inline int SerialShort(int op, std::uint16_t& f, const std::uint16_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
-inline int SerialByte(int op, std::int8_t& f, const std::int8_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
-inline int SerialByte(int op, std::uint8_t& f, const std::uint8_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
+[[gnu::always_inline]] inline int SerialInt(int op, std::int32_t& f, const std::int32_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
+[[gnu::always_inline]] inline int SerialInt(int op, std::uint32_t& f, const std::uint32_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
+[[gnu::always_inline]] inline int SerialShort(int op, std::int16_t& f, const std::int16_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
+[[gnu::always_inline]] inline int SerialShort(int op, std::uint16_t& f, const std::uint16_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
+[[gnu::always_inline]] inline int SerialByte(int op, std::int8_t& f, const std::int8_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
+[[gnu::always_inline]] inline int SerialByte(int op, std::uint8_t& f, const std::uint8_t* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
 // Equality of doubles is `==`: +0.0 equals -0.0 and a NaN equals nothing.
-inline int SerialDouble(int op, double& f, const double* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
+[[gnu::always_inline]] inline int SerialDouble(int op, double& f, const double* o, cSerialFile* file) { return serial_detail::Scalar(op, f, o, file); }
 
 // Fixed arrays: count elements in one piece, no count stored.
 inline int SerialIntArray(int op, std::int32_t* f, const std::int32_t* o, int count, cSerialFile* file) {
@@ -158,18 +178,25 @@ T ReadingPrototype() {
 // Reading erases the vector and fills it with copies of the prototype, so each element
 // starts from the constructor's defaults, and loads each in order.
 template <class T>
-int ReadRecordVector(VECTOR_CLASS<T>& f, cSerialFile* file) {
-  std::uint32_t n = 0;
-  // Every record stores at least one byte, which bounds the count by the file's size.
-  if (!serial_detail::ReadCount(file, 1, n)) return 0;
+[[gnu::noinline]] int ReadRecordElements(VECTOR_CLASS<T>& f, std::uint32_t n, cSerialFile* file) {
   const T prototype = ReadingPrototype<T>();
-  f.clear();
   f.reserve(std::min<std::uint32_t>(n, 4096));  // a damaged count fails at its first short record
   for (std::uint32_t i = 0; i < n; ++i) {
     f.push_back(prototype);
     if (!f.back().Load(file)) return 0;
   }
   return 1;
+}
+
+// Most nested vectors are empty, such as the conditions of every place of every
+// character: those cost the count and nothing more.
+template <class T>
+int ReadRecordVector(VECTOR_CLASS<T>& f, cSerialFile* file) {
+  std::uint32_t n = 0;
+  // Every record stores at least one byte, which bounds the count by the file's size.
+  if (!serial_detail::ReadCount(file, 1, n)) return 0;
+  f.clear();
+  return n == 0 ? 1 : ReadRecordElements(f, n, file);
 }
 
 template <class T>
