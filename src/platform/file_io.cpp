@@ -5,18 +5,31 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-bool ReadWholeFile(const std::filesystem::path& path, std::vector<unsigned char>& out) {
+namespace {
+
+// Opens a regular file to be read front to back: its descriptor and size, or -1.
+int OpenForSequentialRead(const std::filesystem::path& path, std::size_t& size) {
   int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (fd < 0) return false;
+  if (fd < 0) return -1;
   struct stat st {};
   if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
     ::close(fd);
-    return false;
+    return -1;
   }
   ::posix_fadvise(fd, 0, 0, POSIX_FADV_SEQUENTIAL);
+  size = static_cast<std::size_t>(st.st_size);
+  return fd;
+}
+
+}  // namespace
+
+bool ReadWholeFile(const std::filesystem::path& path, std::vector<unsigned char>& out) {
+  std::size_t size = 0;
+  int fd = OpenForSequentialRead(path, size);
+  if (fd < 0) return false;
   // Read straight into the buffer, sized from the file. Once it is full, a small probe
   // finds the end; a file that grew meanwhile is read on from there.
-  std::vector<unsigned char> data(static_cast<std::size_t>(st.st_size));
+  std::vector<unsigned char> data(size);
   std::size_t filled = 0;
   unsigned char probe[4096];
   for (;;) {
@@ -41,17 +54,12 @@ cFileReader::~cFileReader() {
 }
 
 bool cFileReader::Open(const std::filesystem::path& path) {
-  int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  std::size_t size = 0;
+  int fd = OpenForSequentialRead(path, size);
   if (fd < 0) return false;
-  struct stat st {};
-  if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
-    ::close(fd);
-    return false;
-  }
-  ::posix_fadvise(fd, 0, 0, POSIX_FADV_SEQUENTIAL);
   if (m_fd >= 0) ::close(m_fd);
   m_fd = fd;
-  m_size = static_cast<std::size_t>(st.st_size);
+  m_size = size;
   return true;
 }
 
