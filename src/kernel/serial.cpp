@@ -11,6 +11,10 @@ std::string g_strLastSerialFailure;
 
 int cSerial::Load(cSerialFile* file) {
   Serialize(SERIAL_READ, nullptr, file, g_nFileVersion);
+  return FinishLoad(file);
+}
+
+int cSerial::FinishLoad(cSerialFile* file) {
   if (file->Failed()) return 0;
   if (g_bNormalizeOnLoad) Normalize();
   return 1;

@@ -42,6 +42,9 @@ class cSerial {
   virtual int Load(cSerialFile* file);
   // Writes the record. Overrides clamp first, then call the base.
   virtual int Save(cSerialFile* file);
+  // The end of the base Load, after the read walk: 0 when the file failed, else the
+  // normalising walk when it is asked for.
+  int FinishLoad(cSerialFile* file);
 
   // A copy of every member, of the record's own class; and the assignment back. A load
   // that fails on the file's content restores the record from such a copy.

@@ -9,8 +9,6 @@ bool FailCountTooLarge(cSerialFile* file) {
   return false;
 }
 
-void WriteCount(cSerialFile* file, std::size_t count) { file->WriteValue(static_cast<std::uint32_t>(count)); }
-
 }  // namespace serial_detail
 
 namespace {

@@ -70,7 +70,7 @@ bool FailCountTooLarge(cSerialFile* file);  // always false
   if (static_cast<std::uint64_t>(count) * minBytesEach > file->Remaining()) return FailCountTooLarge(file);
   return true;
 }
-void WriteCount(cSerialFile* file, std::size_t count);
+inline void WriteCount(cSerialFile* file, std::size_t count) { file->WriteValue(static_cast<std::uint32_t>(count)); }
 
 // A vector of plain elements stored back to back: integers, bytes, pairs.
 template <class T>
@@ -140,6 +140,30 @@ int SerialVectorArray(int op, VECTOR_CLASS<std::int32_t>* f, const VECTOR_CLASS<
                       cSerialFile* file);
 int SerialStringVector(int op, VECTOR_CLASS<std::string>& f, const VECTOR_CLASS<std::string>* o, cSerialFile* file);
 
+// Load and Save of a record held by value, in a field, an array or a vector, and so of
+// exactly its declared class T: the calls go straight to T's own functions rather than
+// through the virtual table, which counts with the millions of places of a large
+// project. A class that keeps the base Load or Save gets its walk called directly.
+template <class T>
+int LoadHeldRecord(T& record, cSerialFile* file) {
+  if constexpr (std::is_same_v<decltype(&T::Load), int (cSerial::*)(cSerialFile*)>) {
+    record.T::Serialize(SERIAL_READ, nullptr, file, g_nFileVersion);
+    return record.FinishLoad(file);
+  } else {
+    return record.T::Load(file);
+  }
+}
+
+template <class T>
+int SaveHeldRecord(T& record, cSerialFile* file) {
+  if constexpr (std::is_same_v<decltype(&T::Save), int (cSerial::*)(cSerialFile*)>) {
+    record.T::Serialize(SERIAL_WRITE, nullptr, file, g_nCurVersion);
+    return 1;
+  } else {
+    return record.T::Save(file);
+  }
+}
+
 // A nested record: its own Load and Save stream, so its migrations and clamps run.
 template <class T>
 int SerialRecord(int op, T& f, const std::type_identity_t<T>* o, cSerialFile* file) {
@@ -147,8 +171,8 @@ int SerialRecord(int op, T& f, const std::type_identity_t<T>* o, cSerialFile* fi
     case SERIAL_INIT: f.Reset(); return 1;
     case SERIAL_COPY: if (o != nullptr) f.Copy(*o); return 1;
     case SERIAL_COMPARE: return o == nullptr || Compare(f, *o);
-    case SERIAL_READ: return f.Load(file);
-    case SERIAL_WRITE: f.Save(file); return 1;
+    case SERIAL_READ: return LoadHeldRecord(f, file);
+    case SERIAL_WRITE: SaveHeldRecord(f, file); return 1;
     case SERIAL_NORMALIZE: f.Normalize(); return 1;
     default: return 1;
   }
@@ -183,7 +207,7 @@ template <class T>
   f.reserve(std::min<std::uint32_t>(n, 4096));  // a damaged count fails at its first short record
   for (std::uint32_t i = 0; i < n; ++i) {
     f.push_back(prototype);
-    if (!f.back().Load(file)) return 0;
+    if (!LoadHeldRecord(f.back(), file)) return 0;
   }
   return 1;
 }
@@ -218,7 +242,7 @@ int SerialRecordVector(int op, VECTOR_CLASS<T>& f, const VECTOR_CLASS<std::type_
     case SERIAL_READ: return ReadRecordVector(f, file);
     case SERIAL_WRITE:
       serial_detail::WriteCount(file, f.size());
-      for (T& element : f) element.Save(file);
+      for (T& element : f) SaveHeldRecord(element, file);
       return 1;
     case SERIAL_NORMALIZE:
       for (T& element : f) element.Normalize();
