@@ -21,7 +21,8 @@ constexpr std::size_t kFirstMemoryBytes = 4096;
 std::unique_ptr<cSerialFile> cSerialFile::ForReading(std::vector<unsigned char> bytes) {
   std::unique_ptr<cSerialFile> file(new cSerialFile(Mode::Read));
   file->m_bytes = std::move(bytes);
-  file->m_end = file->m_total = file->m_bytes.size();
+  file->m_total = file->m_bytes.size();
+  file->StartPiece(file->m_total);
   file->KeepHead();
   return file;
 }
@@ -31,6 +32,7 @@ std::unique_ptr<cSerialFile> cSerialFile::ForReading(std::unique_ptr<cFileReader
   file->m_total = source->Size();
   file->m_bytes.resize(std::min(file->m_total, kPieceBytes));
   file->m_source = std::move(source);
+  file->StartPiece(0);
   if (file->m_total > 0 && !file->Refill()) return file;
   file->KeepHead();
   return file;
@@ -40,8 +42,18 @@ std::unique_ptr<cSerialFile> cSerialFile::ForWriting() {
   return std::unique_ptr<cSerialFile>(new cSerialFile(Mode::Write));
 }
 
+void cSerialFile::StartPiece(std::size_t valid) {
+  m_readAt = m_bytes.data();
+  m_readEnd = m_readAt + valid;
+}
+
+void cSerialFile::SetWriteRoom(std::size_t used) {
+  m_writeAt = m_bytes.data() + used;
+  m_writeEnd = m_bytes.data() + m_bytes.size();
+}
+
 void cSerialFile::KeepHead() {
-  m_headSize = std::min(m_end, kHeadBytes);
+  m_headSize = std::min(static_cast<std::size_t>(m_readEnd - m_readAt), kHeadBytes);
   if (m_headSize > 0) std::memcpy(m_head, m_bytes.data(), m_headSize);
 }
 
@@ -55,9 +67,9 @@ bool cSerialFile::ReadAcross(void* data, std::size_t size) {
   if (m_bFailed || size > Remaining()) return ReadPastEnd();
   unsigned char* out = static_cast<unsigned char*>(data);
   for (;;) {
-    const std::size_t take = std::min(size, m_end - m_pos);
-    if (take > 0) std::memcpy(out, m_bytes.data() + m_pos, take);
-    m_pos += take;
+    const std::size_t take = std::min(size, static_cast<std::size_t>(m_readEnd - m_readAt));
+    if (take > 0) std::memcpy(out, m_readAt, take);
+    m_readAt += take;
     out += take;
     size -= take;
     if (size == 0) return true;
@@ -69,17 +81,19 @@ bool cSerialFile::ReadAcross(void* data, std::size_t size) {
 // bytes remaining; the file may have become shorter since it was opened.
 bool cSerialFile::Refill() {
   if (!m_source) return ReadPastEnd();
-  m_base += m_end;
-  m_pos = m_end = 0;
+  m_base = Position();
+  StartPiece(0);
   const std::size_t want = std::min(m_bytes.size(), m_total - m_base);
-  while (m_end < want) {
-    const long long n = m_source->ReadSome(m_bytes.data() + m_end, want - m_end);
+  std::size_t filled = 0;
+  while (filled < want) {
+    const long long n = m_source->ReadSome(m_bytes.data() + filled, want - filled);
     if (n <= 0) {
       Fail(n < 0 ? "the file could not be read" : "the file became shorter while it was read");
       return false;
     }
-    m_end += static_cast<std::size_t>(n);
+    filled += static_cast<std::size_t>(n);
   }
+  StartPiece(filled);
   return true;
 }
 
@@ -91,25 +105,32 @@ bool cSerialFile::ReadPastEnd() {
 void cSerialFile::Fail(const char* what) {
   if (m_bFailed) return;
   m_bFailed = true;
+  m_readEnd = m_readAt;  // every later read takes the slow side, which sees the failure
   char text[160];
-  std::snprintf(text, sizeof text, "%s at byte %zu of %zu", what, Position(), m_total);
+  std::snprintf(text, sizeof text, "%s at byte %zu of %zu", what, m_mode == Mode::Read ? Position() : Written(),
+                m_mode == Mode::Read ? m_total : Written());
   m_failure = text;
 }
 
 void cSerialFile::MakeRoom(std::size_t size) {
+  const std::size_t used = static_cast<std::size_t>(m_writeAt - m_bytes.data());
   if (m_target.IsOpen()) {
-    if (m_used > 0) m_target.Write(m_bytes.data(), m_used);  // a failure is kept and ends the commit
-    m_used = 0;
+    if (used > 0) m_target.Write(m_bytes.data(), used);  // a failure is kept and ends the commit
+    m_base += used;
     m_bytes.resize(std::max({size, kPieceBytes, m_bytes.size()}));
+    SetWriteRoom(0);
     return;
   }
-  m_bytes.resize(std::max({m_used + size, 2 * m_bytes.size(), kFirstMemoryBytes}));
+  m_bytes.resize(std::max({used + size, 2 * m_bytes.size(), kFirstMemoryBytes}));
+  SetWriteRoom(used);
 }
 
 bool cSerialFile::CommitToTarget() {
   if (!m_target.IsOpen()) return false;
-  const bool written = m_target.Write(m_bytes.data(), m_used);
-  m_used = 0;
+  const std::size_t used = static_cast<std::size_t>(m_writeAt - m_bytes.data());
+  const bool written = m_target.Write(m_bytes.data(), used);
+  m_base += used;
+  SetWriteRoom(0);
   return m_target.Commit() && written;
 }
 

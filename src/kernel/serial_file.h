@@ -30,20 +30,22 @@ class cSerialFile {
 
   // Reading. False when fewer than `size` bytes remain; the file is then failed.
   bool Read(void* data, std::size_t size) {
-    if (m_bFailed || size > m_end - m_pos) return ReadAcross(data, size);
-    if (size > 0) std::memcpy(data, m_bytes.data() + m_pos, size);
-    m_pos += size;
+    if (size > static_cast<std::size_t>(m_readEnd - m_readAt)) return ReadAcross(data, size);
+    if (size > 0) std::memcpy(data, m_readAt, size);
+    m_readAt += size;
     return true;
   }
   template <class T>
   [[gnu::always_inline]] bool ReadValue(T& value) {
-    if (m_bFailed || sizeof value > m_end - m_pos) return ReadAcross(&value, sizeof value);
-    std::memcpy(&value, m_bytes.data() + m_pos, sizeof value);  // a fixed size: no call
-    m_pos += sizeof value;
+    if (sizeof value > static_cast<std::size_t>(m_readEnd - m_readAt)) return ReadAcross(&value, sizeof value);
+    std::memcpy(&value, m_readAt, sizeof value);  // a fixed size: no call
+    m_readAt += sizeof value;
     return true;
   }
   std::size_t Remaining() const { return m_bFailed ? 0 : m_total - Position(); }
-  std::size_t Position() const { return m_base + m_pos; }
+  std::size_t Position() const { return m_base + static_cast<std::size_t>(m_readAt - m_bytes.data()); }
+  // Writing: the bytes written so far, handed to the disk file or not.
+  std::size_t Written() const { return m_base + static_cast<std::size_t>(m_writeAt - m_bytes.data()); }
   // Copies bytes from the first kHeadBytes of the stream, wherever the cursor is. False
   // when the stream is shorter than offset + size or the range is beyond the head.
   static constexpr std::size_t kHeadBytes = 16;
@@ -56,20 +58,20 @@ class cSerialFile {
 
   // Writing.
   void Write(const void* data, std::size_t size) {
-    if (size > m_bytes.size() - m_used) MakeRoom(size);
-    if (size > 0) std::memcpy(m_bytes.data() + m_used, data, size);
-    m_used += size;
+    if (size > static_cast<std::size_t>(m_writeEnd - m_writeAt)) MakeRoom(size);
+    if (size > 0) std::memcpy(m_writeAt, data, size);
+    m_writeAt += size;
   }
   template <class T>
   [[gnu::always_inline]] void WriteValue(const T& value) {
-    if (sizeof value > m_bytes.size() - m_used) MakeRoom(sizeof value);
-    std::memcpy(m_bytes.data() + m_used, &value, sizeof value);  // a fixed size: no call
-    m_used += sizeof value;
+    if (sizeof value > static_cast<std::size_t>(m_writeEnd - m_writeAt)) MakeRoom(sizeof value);
+    std::memcpy(m_writeAt, &value, sizeof value);  // a fixed size: no call
+    m_writeAt += sizeof value;
   }
 
   // The whole stream of a stream written in memory. A stream bound to a disk file holds
   // only what has not yet been handed to the file.
-  std::vector<unsigned char> Bytes() const { return {m_bytes.begin(), m_bytes.begin() + m_used}; }
+  std::vector<unsigned char> Bytes() const { return {m_bytes.cbegin(), m_bytes.cbegin() + (m_writeAt - m_bytes.data())}; }
 
   // The disk file a written stream goes to; not opened for streams in memory.
   cAtomicFile& Target() { return m_target; }
@@ -79,8 +81,8 @@ class cSerialFile {
 
  private:
   explicit cSerialFile(Mode mode) : m_mode(mode) {}
-  // The slow side of reading: a read that crosses into the next piece of the file, or
-  // one that would pass the end, which fails the file.
+  // The slow side of reading: a read that crosses into the next piece of the file, one
+  // that would pass the end, which fails the file, and any read of a failed file.
   bool ReadAcross(void* data, std::size_t size);
   bool ReadPastEnd();
   bool Refill();
@@ -89,13 +91,21 @@ class cSerialFile {
   // holds to the file, a stream in memory grows.
   void MakeRoom(std::size_t size);
 
+  // Points the cursor at the start of the piece, which holds `valid` bytes.
+  void StartPiece(std::size_t valid);
+  // Where `used` bytes of the room are taken.
+  void SetWriteRoom(std::size_t used);
+
   Mode m_mode;
   std::vector<unsigned char> m_bytes;  // reading: the piece under the cursor; writing: room
-  std::size_t m_used = 0;              // writing: bytes of m_bytes in use
-  std::size_t m_pos = 0;               // reading: the cursor within m_bytes
-  std::size_t m_end = 0;               // reading: valid bytes in m_bytes
-  std::size_t m_base = 0;              // reading: where m_bytes starts in the stream
-  std::size_t m_total = 0;             // reading: the stream's length
+  // The cursors are pointers into m_bytes, so that the inlined reads and writes test a
+  // single distance. A failed file reads as if its piece had ended at the cursor.
+  const unsigned char* m_readAt = nullptr;
+  const unsigned char* m_readEnd = nullptr;
+  unsigned char* m_writeAt = nullptr;
+  unsigned char* m_writeEnd = nullptr;
+  std::size_t m_base = 0;  // where m_bytes starts in the stream
+  std::size_t m_total = 0;  // reading: the length of the stream
   unsigned char m_head[kHeadBytes] = {};
   std::size_t m_headSize = 0;
   std::unique_ptr<cFileReader> m_source;

@@ -132,6 +132,15 @@ TEST_F(SerialFileTest, ImpossibleCountsAndLengthsFailWithoutAllocating) {
   VECTOR_CLASS<cTestItem> items(2);
   EXPECT_EQ(LoadVector(items, OpenSerialReadBuffer(stream({Le32(0x7FFFFFFF)}))), 0);
   EXPECT_EQ(items.size(), 2u);
+
+  // A file failed on its content reads nothing more, though bytes remain.
+  SerialFilePtr failed = OpenSerialReadBuffer(stream({Le32(7), Le32(8)}));
+  failed->Fail("a record refused its content");
+  std::int32_t value = 0;
+  EXPECT_FALSE(failed->ReadValue(value));
+  EXPECT_EQ(value, 0);
+  EXPECT_EQ(failed->Remaining(), 0u);
+  EXPECT_EQ(failed->FailureText(), "a record refused its content at byte 4 of 12");
 }
 
 TEST_F(SerialFileTest, AShortHeaderIsNoFile) {
