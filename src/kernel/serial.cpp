@@ -14,12 +14,6 @@ int cSerial::Load(cSerialFile* file) {
   return FinishLoad(file);
 }
 
-int cSerial::FinishLoad(cSerialFile* file) {
-  if (file->Failed()) return 0;
-  if (g_bNormalizeOnLoad) Normalize();
-  return 1;
-}
-
 int cSerial::Save(cSerialFile* file) {
   Serialize(SERIAL_WRITE, nullptr, file, g_nCurVersion);
   return 1;

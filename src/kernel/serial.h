@@ -44,7 +44,11 @@ class cSerial {
   virtual int Save(cSerialFile* file);
   // The end of the base Load, after the read walk: 0 when the file failed, else the
   // normalising walk when it is asked for.
-  int FinishLoad(cSerialFile* file);
+  int FinishLoad(cSerialFile* file) {
+    if (file->Failed()) return 0;
+    if (g_bNormalizeOnLoad) Normalize();
+    return 1;
+  }
 
   // A copy of every member, of the record's own class; and the assignment back. A load
   // that fails on the file's content restores the record from such a copy.

@@ -66,8 +66,11 @@ bool FailCountTooLarge(cSerialFile* file);  // always false
 [[gnu::always_inline]] inline bool ReadCount(cSerialFile* file, std::size_t minBytesEach, std::uint32_t& count) {
   if (!file->ReadValue(count)) return false;
   // Counts are 32-bit and element sizes small: the product cannot overflow, and it
-  // spares a division on every vector of every record.
-  if (static_cast<std::uint64_t>(count) * minBytesEach > file->Remaining()) return FailCountTooLarge(file);
+  // spares a division on every vector of every record. Most counts are 0 and need no
+  // test at all.
+  if (count != 0 && static_cast<std::uint64_t>(count) * minBytesEach > file->Remaining()) {
+    return FailCountTooLarge(file);
+  }
   return true;
 }
 inline void WriteCount(cSerialFile* file, std::size_t count) { file->WriteValue(static_cast<std::uint32_t>(count)); }
