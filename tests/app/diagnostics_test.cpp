@@ -2,6 +2,8 @@
 
 #include "app/diagnostics.h"
 
+#include <tuple>
+
 #include "app/main_window_link.h"
 #include "app/out_of_memory.h"
 #include "app/report_startup.h"
@@ -68,17 +70,14 @@ TEST_F(DiagnosticsTest, MessageBoxesGoThroughThePromptWithTheErrorCaption) {
   MSP("%d%%", 50);
   ReportBox("box %s", "text");
   ASSERT_EQ(m_prompt.shown.size(), 2u);
-  EXPECT_EQ(m_prompt.shown[0].text, "50%");
-  EXPECT_EQ(m_prompt.shown[0].caption, CP932_TEXT("エラー"));
-  EXPECT_EQ(m_prompt.shown[0].style, MB_OK);
-  EXPECT_EQ(m_prompt.shown[1].text, "box text");
+  EXPECT_EQ(std::tie(m_prompt.shown[0].text, m_prompt.shown[0].caption, m_prompt.shown[0].style, m_prompt.shown[1].text),
+            std::make_tuple("50%", CP932_TEXT("エラー"), unsigned{MB_OK}, "box text"));
   EXPECT_EQ(FileText("Report_Editor.txt"), "box text\r\n");
 
   m_prompt.answers = {IDNO};
   EXPECT_EQ(MesBoxActive("q", "c", MB_YESNO), IDNO);
-  EXPECT_EQ(cHeadlessPrompt::AnswerThatChangesNothing(MB_YESNO), IDNO);
-  EXPECT_EQ(cHeadlessPrompt::AnswerThatChangesNothing(MB_YESNOCANCEL), IDCANCEL);
-  EXPECT_EQ(cHeadlessPrompt::AnswerThatChangesNothing(MB_OK), IDOK);
+  for (auto [style, answer] : {std::pair{MB_YESNO, IDNO}, {MB_YESNOCANCEL, IDCANCEL}, {MB_OK, IDOK}})
+    EXPECT_EQ(cHeadlessPrompt::AnswerThatChangesNothing(style), answer);
 }
 
 namespace {
@@ -92,8 +91,7 @@ TEST_F(DiagnosticsTest, OutOfMemoryShowsItsBoxBeforeTheCloseIsPosted) {
   bool closedWhenShown = true;
   m_prompt.onShow = [&] { closedWhenShown = g_bClosePosted; };
   ReportOutOfMemory();
-  EXPECT_FALSE(closedWhenShown);
-  EXPECT_TRUE(g_bClosePosted);
+  EXPECT_TRUE(!closedWhenShown && g_bClosePosted);
   ASSERT_EQ(m_prompt.shown.size(), 1u);
   EXPECT_EQ(m_prompt.shown[0].text, CP932_TEXT("メモリが不足しています！"));
 }
@@ -103,8 +101,7 @@ TEST_F(DiagnosticsTest, OutOfMemoryHandlerGivesBackItsReserveOnce) {
   InstallOutOfMemoryHandler(4096);
   std::set_new_handler(nullptr);  // the test calls the handler itself
   EXPECT_TRUE(HandleOutOfMemory());
-  EXPECT_EQ(m_prompt.shown.size(), 1u);
-  EXPECT_TRUE(g_bRunEnding);
+  EXPECT_TRUE(m_prompt.shown.size() == 1u && g_bRunEnding);
   EXPECT_FALSE(HandleOutOfMemory());
   EXPECT_EQ(FileText("Report_Editor.txt"), CP932_TEXT("メモリが不足しています！") + "\r\n");
 }

@@ -30,17 +30,3 @@ TEST(MachineReport, LinesKeepTheirFormatsAndThirtyTwoBitFigures) {
             "Display : (1920,1080)\n"
             "System Font : IPAGothic (0,-12) 128\n");
 }
-
-TEST(MachineReport, OsVersionQueriesAgreeWithTheName) {
-  int major = -1, minor = -1;
-  std::string name;
-  GetOsName(&name, &major, &minor);
-  GetOsName(nullptr, nullptr, nullptr);
-  EXPECT_FALSE(name.empty());
-  EXPECT_GT(major, 0);
-  EXPECT_TRUE(IsOsVersion(major, minor));
-  EXPECT_TRUE(IsOsAtLeast(major, minor));
-  EXPECT_TRUE(IsOsAtLeast(major - 1, 99));
-  EXPECT_FALSE(IsOsAtLeast(major, minor + 1));
-  EXPECT_FALSE(IsOsVersion(major + 1, minor));
-}

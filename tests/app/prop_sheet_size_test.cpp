@@ -15,9 +15,7 @@ TEST_F(PropSheetSizeTest, DefaultAndMeasuredRecordsHaveTheirExactBytes) {
   size.m_nOsMajor = 6;
   size.m_nOsMinor = 1;
   size.m_strFontFace = "\x82\x6C\x82\x72";  // full-width "MS"
-  size.m_nFontHeight = -12;
-  size.m_dRateX = 1.0;
-  size.m_dRateY = 0.5;
+  size.m_nFontHeight = -12, size.m_dRateX = 1.0, size.m_dRateY = 0.5;
   ASSERT_EQ(size.SaveFile(kSheetSizePath), 1);
   EXPECT_EQ(FileBytes("e_data/SheetSize.dat"),
             Bytes({0x22, 1, 0, 0, 6, 0, 0, 0, 1, 0, 0, 0, 5, 0, 0, 0, 0x82, 0x6C, 0x82, 0x72, 0,

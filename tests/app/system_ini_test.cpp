@@ -1,5 +1,7 @@
 #include "app/system_ini.h"
 
+#include <tuple>
+
 #include "support/test_env.h"
 
 namespace {
@@ -19,42 +21,24 @@ INI_VALUES Read(const std::string& text, int* result = nullptr) {
 
 using SystemIniTest = ProjectDirTest;
 
-TEST_F(SystemIniTest, DefaultsComeFromTheRows) {
-  INI_VALUES ini;
-  IniSetDefaults(ini, DefaultIniRows());
-  EXPECT_EQ(ini.m_bDefaulted, 1);
-  EXPECT_EQ(ini.m_nWindowMode, 2);
-  EXPECT_EQ(ini.m_nVSync, 2);
-  EXPECT_EQ(ini.m_nFrameRate, 60);
-  EXPECT_EQ(ini.m_nMidiDirectMusic, 1);
-
-  int result = -1;
-  LoadSystemIni("missing.ini", ini, DefaultIniRows());
-  EXPECT_EQ(ini.m_nFrameRate, 60);
-  Read("", &result);
-  EXPECT_EQ(result, 0);
-}
-
 TEST_F(SystemIniTest, AFileCountsOnlyWhenItReachesExitANulOrTheLineLimit) {
   int result = -1;
-  INI_VALUES ini = Read("FrameRate=30\r\nVSync=0\r\nExit\r\n", &result);
-  EXPECT_EQ(result, 1);
-  EXPECT_EQ(ini.m_nFrameRate, 30);
-  EXPECT_EQ(ini.m_nVSync, 0);
-
-  ini = Read("VSync=0\r\n", &result);  // no "Exit": the end of the file counts for nothing
+  Read("", &result);
   EXPECT_EQ(result, 0);
-  EXPECT_EQ(ini.m_nVSync, 2);
-
+  INI_VALUES missing;
+  LoadSystemIni("missing.ini", missing, DefaultIniRows());  // the rows' defaults
+  EXPECT_EQ(std::tie(missing.m_bDefaulted, missing.m_nWindowMode, missing.m_nFrameRate), std::make_tuple(1, 2, 60));
+  INI_VALUES ini = Read("FrameRate=30\r\nVSync=0\r\nExit\r\n", &result);
+  EXPECT_EQ(std::tie(result, ini.m_nFrameRate, ini.m_nVSync), std::make_tuple(1, 30, 0));
+  ini = Read("VSync=0\r\n", &result);  // no "Exit": the end of the file counts for nothing
+  EXPECT_EQ(std::tie(result, ini.m_nVSync), std::make_tuple(0, 2));
   ini = Read(std::string("VSync=1\n\0garbage", 17), &result);
-  EXPECT_EQ(result, 1);
-  EXPECT_EQ(ini.m_nVSync, 1);
+  EXPECT_EQ(std::tie(result, ini.m_nVSync), std::make_tuple(1, 1));
 
   std::string many;
   for (int i = 0; i < 10000; ++i) many += "x\n";
   ini = Read(many + "VSync=1\n", &result);  // beyond the limit nothing more is looked at
-  EXPECT_EQ(result, 1);
-  EXPECT_EQ(ini.m_nVSync, 2);
+  EXPECT_EQ(std::tie(result, ini.m_nVSync), std::make_tuple(1, 2));
 }
 
 TEST_F(SystemIniTest, KeysValuesAndComments) {
@@ -70,21 +54,15 @@ TEST_F(SystemIniTest, KeysValuesAndComments) {
       "Exit\n"
       "ShowFps=0\n",
       &result);
-  EXPECT_EQ(result, 1);
-  EXPECT_EQ(ini.m_nFrameRate, 45);
-  EXPECT_EQ(ini.m_nMidiDirectMusic, 0);
-  EXPECT_EQ(ini.m_nEnglish, 7);
-  EXPECT_EQ(ini.m_nWindowMode, 2147483647);
-  EXPECT_EQ(ini.m_nColor, -3);
-  EXPECT_EQ(ini.m_nShowFps, 2);  // after "Exit" nothing is read
+  // After "Exit" nothing is read.
+  EXPECT_EQ(std::tie(result, ini.m_nFrameRate, ini.m_nMidiDirectMusic, ini.m_nEnglish, ini.m_nWindowMode, ini.m_nColor,
+                     ini.m_nShowFps),
+            std::make_tuple(1, 45, 0, 7, 2147483647, -3, 2));
 
   // What follows a value behind a blank is read as the next line's key, so even a
   // comment can end the file; and a blank right behind "=" leaves the value empty.
   ini = Read("VSync=1 Exit\nShowFps=1\n", &result);
-  EXPECT_EQ(result, 1);
-  EXPECT_EQ(ini.m_nVSync, 1);
-  EXPECT_EQ(ini.m_nShowFps, 2);
+  EXPECT_EQ(std::tie(result, ini.m_nVSync, ini.m_nShowFps), std::make_tuple(1, 1, 2));
   ini = Read("ShowFps= 1\nExit\n", &result);
-  EXPECT_EQ(result, 1);
-  EXPECT_EQ(ini.m_nShowFps, 0);
+  EXPECT_EQ(std::tie(result, ini.m_nShowFps), std::make_tuple(1, 0));
 }

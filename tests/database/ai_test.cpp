@@ -2,6 +2,7 @@
 // the list texts.
 
 #include <filesystem>
+#include <tuple>
 
 #include "database/ai_summary.h"
 #include "database/battle_ai.h"
@@ -83,8 +84,7 @@ TEST_F(AITest, FieldsAndTheConditionSwitchFollowTheirVersions) {
   EXPECT_EQ(RuleAt(113, [](cMoveAI& r) { r.m_bValCond = 1; }).m_bCond, 0);
   EXPECT_EQ(RuleAt(50, [](cMoveAI& r) { r.m_bMovedCond = 1; }).m_bCond, 0);  // not in the file yet
   cMoveAI at43 = RuleAt(43, [](cMoveAI& r) { r.m_bFriendInRange = 1; r.m_nReserved = 7; r.m_nCondType = 1; });
-  EXPECT_EQ(at43.m_bFriendInRange + at43.m_bCond + at43.m_nCondType, 0);
-  EXPECT_EQ(at43.m_nReserved, 1);
+  EXPECT_EQ(std::tie(at43.m_bFriendInRange, at43.m_bCond, at43.m_nCondType, at43.m_nReserved), std::make_tuple(0, 0, 0, 1));
   EXPECT_EQ(RuleAt(45, [](cMoveAI& r) { r.m_nReserved = 7; }).m_nReserved, 7);
 
   cBattleAI ai;
@@ -93,8 +93,7 @@ TEST_F(AITest, FieldsAndTheConditionSwitchFollowTheirVersions) {
   EXPECT_EQ(LoadedFrom<cBattleAI>(StreamAtVersion(ai, 249)).m_bNoEvaluate, 0);
   EXPECT_EQ(LoadedFrom<cBattleAI>(StreamAtVersion(ai, 250)).m_vecCond.size(), 2u);
   cMoveAITemplate templ;
-  templ.m_strName = "n";
-  templ.m_strDesc = "d";
+  templ.m_strName = "n", templ.m_strDesc = "d";
   cMoveAITemplate at57 = LoadedFrom<cMoveAITemplate>(StreamAtVersion(templ, 57));
   EXPECT_EQ(at57.m_strName + at57.m_strDesc, "n");
 }

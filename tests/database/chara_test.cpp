@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <numeric>
+#include <tuple>
+
 #include "database/chara_kinds.h"
-#include "database/chara_preview.h"
 #include "database/chara_random.h"
 #include "database/db_test_support.h"
 #include "database/record_stream.h"
@@ -15,9 +17,6 @@ class CharaTest : public DatabaseTest {
  protected:
   void SetUp() override {
     DatabaseTest::SetUp();
-    m_savedSystem = g_System;
-    m_savedLists = g_vecSkillList;
-    m_savedClasses = g_vecClass;
     g_System = cSystem();
     SetTables(3, 2, 2);
     g_Database.m_vecPtVal.resize(4);
@@ -28,9 +27,6 @@ class CharaTest : public DatabaseTest {
   }
   void TearDown() override {
     SetCharaRandomSource({});
-    g_System = m_savedSystem;
-    g_vecSkillList = m_savedLists;
-    g_vecClass = m_savedClasses;
     DatabaseTest::TearDown();
   }
 
@@ -54,31 +50,24 @@ class CharaTest : public DatabaseTest {
   }
 
  private:
-  cSystem m_savedSystem;
-  VECTOR_CLASS<cSkillList> m_savedLists;
-  VECTOR_CLASS<cClass> m_savedClasses;
+  cGlobalsGuard<cSystem, VECTOR_CLASS<cSkillList>, VECTOR_CLASS<cClass>> m_guard{g_System, g_vecSkillList, g_vecClass};
 };
 
 }  // namespace
 
 TEST_F(CharaTest, ClassStreamsAtOldVersions) {
   cClass cls;
-  cls.m_nAtkList = 1;
-  cls.m_nAtkSkill = 5;
-  cls.m_nScale = 300;
+  cls.m_nAtkList = 1, cls.m_nAtkSkill = 5, cls.m_nScale = 300;
   // Three values after the final status that version 35 dropped.
   EXPECT_EQ(StreamAtVersion(cls, 34).size(), StreamAtVersion(cls, 35).size() + 12);
 
+  // The scale came with 36; the slot lists are sized by the repair, not the file.
   cClass fromOld = LoadedFrom<cClass>(StreamAtVersion(cls, 34));
-  EXPECT_EQ(fromOld.m_nScale, 200);  // the scale came with 36
-  EXPECT_EQ(fromOld.m_nAtkSkill, 5);
-  EXPECT_EQ(fromOld.m_strName, cls.m_strName);
+  EXPECT_EQ(std::tie(fromOld.m_nScale, fromOld.m_nAtkSkill, fromOld.m_strName), std::make_tuple(200, 5, cls.m_strName));
   EXPECT_EQ(fromOld.m_vecElemResist.size(), 3u);
-
   cClass fromV15 = LoadedFrom<cClass>(StreamAtVersion(cls, 15));
-  EXPECT_EQ(fromV15.m_nAtkList, 0);
-  EXPECT_EQ(fromV15.m_nAtkSkill, 1);
-  EXPECT_EQ(fromV15.m_vecOrgSlot.size(), 2u);  // sized by the repair, not the file
+  EXPECT_EQ(std::tie(fromV15.m_nAtkList, fromV15.m_nAtkSkill), std::make_tuple(0, 1));
+  EXPECT_EQ(fromV15.m_vecOrgSlot.size(), 2u);
 }
 
 TEST_F(CharaTest, ClassFollowsTheElementAndListTables) {
@@ -92,8 +81,7 @@ TEST_F(CharaTest, ClassFollowsTheElementAndListTables) {
   ASSERT_EQ(cls.m_vecvecSense.size(), 3u);
   EXPECT_EQ(cls.m_vecvecSense[2], VECTOR_CLASS<std::int32_t>(4, 0));
   ASSERT_EQ(cls.m_vecOrgSlot.size(), 3u);
-  EXPECT_EQ(cls.m_vecOrgSlot[2].m_bOwn, 0);
-  EXPECT_EQ(cls.m_vecOrgSlot[2].m_vecSlot.size(), 1u);
+  EXPECT_EQ(std::make_tuple(cls.m_vecOrgSlot[2].m_bOwn, cls.m_vecOrgSlot[2].m_vecSlot.size()), std::make_tuple(0, 1u));
   SetTables(2, 2, 2);
   cls.FixRefs();
   EXPECT_EQ(cls.m_vecElemResist, (VECTOR_CLASS<std::int32_t>{100, 100}));
@@ -110,24 +98,15 @@ TEST_F(CharaTest, EnemyDropsTheFieldsOfVersions33And44Only) {
   EXPECT_EQ(LoadedFrom<cEnemy>(StreamAtVersion(enemy, 104)).m_nTraining, 2);
 
   cFriend ally;
-  ally.m_bRandomSkill = 1;
-  ally.m_bRandomSense = 0;
-  ally.m_bRegenerate = 0;
-  ally.m_nBuiltVersion = 290;
+  ally.m_bRandomSkill = 1, ally.m_bRandomSense = 0, ally.m_bRegenerate = 0, ally.m_nBuiltVersion = 290;
   cFriend old = LoadedFrom<cFriend>(StreamAtVersion(ally, 120));
-  EXPECT_EQ(old.m_bRegenerate, 1);
-  EXPECT_EQ(old.m_bRandomSense, 1);
-  EXPECT_EQ(old.m_nBuiltVersion, 0);
-  cFriend current = LoadedFrom<cFriend>(SavedStream(ally));
-  EXPECT_TRUE(Compare(current, ally));
+  EXPECT_EQ(std::tie(old.m_bRegenerate, old.m_bRandomSense, old.m_nBuiltVersion), std::make_tuple(1, 1, 0));
+  EXPECT_TRUE(Compare(LoadedFrom<cFriend>(SavedStream(ally)), ally));
 }
 
 TEST_F(CharaTest, RepairsReferencesIntoDeletedRows) {
   cFriend ally;
-  ally.m_nClass = 7;
-  ally.m_nMoneyVal = 4;
-  ally.m_nCompatiType = 2;
-  ally.m_nLevel = 50;
+  ally.m_nClass = 7, ally.m_nMoneyVal = 4, ally.m_nCompatiType = 2, ally.m_nLevel = 50;
   ally.m_vecvecReserve.resize(2);
   ally.m_vecvecReserve[1].resize(2);
   ally.m_vecvecReserve[1][0].m_nSkill = 1;
@@ -135,26 +114,17 @@ TEST_F(CharaTest, RepairsReferencesIntoDeletedRows) {
   ally.m_vecLearnSkill.resize(3);
   ally.m_vecLearnSkill[1].m_nList = 2;
   ally.m_vecLearnSkill[2].m_nSkill = 2;
-  ally.m_anEquip[0][0] = 5;
-  ally.m_anEquip[0][1] = 3;
-  ally.m_anEquip[1][0] = 1;
-  ally.m_anEquip[1][1] = 150;
+  ally.m_anEquip[0][0] = 5, ally.m_anEquip[0][1] = 3, ally.m_anEquip[1][0] = 1, ally.m_anEquip[1][1] = 150;
   ally.FixRefs();
-  EXPECT_EQ(ally.m_nClass, 1);
-  EXPECT_EQ(ally.m_nMoneyVal, 1);
-  EXPECT_EQ(ally.m_nCompatiType, 0);
-  EXPECT_EQ(ally.m_nLevelMax, 30);
-  EXPECT_EQ(ally.m_nLevel, 30);
-  EXPECT_EQ(ally.m_avecGrow[8].size(), 30u);
-  EXPECT_EQ(ally.m_vecvecSense[1].size(), 3u);
-  EXPECT_EQ(ally.m_vecLearnSkill.size(), 1u);
+  EXPECT_EQ(std::tie(ally.m_nClass, ally.m_nMoneyVal, ally.m_nCompatiType, ally.m_nLevelMax, ally.m_nLevel),
+            std::make_tuple(1, 1, 0, 30, 30));
+  EXPECT_EQ(std::make_tuple(ally.m_avecGrow[8].size(), ally.m_vecvecSense[1].size(), ally.m_vecLearnSkill.size()),
+            std::make_tuple(30u, 3u, 1u));
   // The reserve keeps its valid skills across a repair; the stale place is erased.
   ASSERT_EQ(ally.m_vecvecReserve[1].size(), 199u);
-  EXPECT_EQ(ally.m_vecvecReserve[1][0].m_nSkill, 1);
-  EXPECT_EQ(ally.m_vecvecReserve[1][1].m_nSkill, 0);
-  EXPECT_EQ(ally.m_anEquip[0][0], 0);
-  EXPECT_EQ(ally.m_anEquip[0][1], 3);  // list 0 has 200 free places
-  EXPECT_EQ(ally.m_anEquip[1][1], 150);
+  EXPECT_EQ(std::tie(ally.m_vecvecReserve[1][0].m_nSkill, ally.m_vecvecReserve[1][1].m_nSkill), std::make_tuple(1, 0));
+  // List 0 has 200 free places.
+  EXPECT_EQ(std::tie(ally.m_anEquip[0][0], ally.m_anEquip[0][1], ally.m_anEquip[1][1]), std::make_tuple(0, 3, 150));
 
   g_vecClass.clear();  // nothing loaded yet: no repair at all
   cFriend untouched;
@@ -214,15 +184,12 @@ TEST_F(CharaTest, GrowthCarriesFractionsFromLevelToLevel) {
   // g = 0 on 30 levels: the same 100 at every level.
   SetClassRange(1, 10, 39, 30);
   cFriend flat = Leveled(1);
-  EXPECT_EQ(flat.m_avecGrow[2][1], 100);
-  EXPECT_EQ(flat.m_avecGrow[2][29], 100);
-  EXPECT_EQ(flat.m_avecGrow[2][0], 0);
+  EXPECT_EQ(std::tie(flat.m_avecGrow[2][0], flat.m_avecGrow[2][1], flat.m_avecGrow[2][29]), std::make_tuple(0, 100, 100));
 
   // g = 10: the line rises from 0 at level 2 to twice the mean at the limit.
   g_System.m_nGrowTimeMin = g_System.m_nGrowTimeMax = 10;
   cFriend late = Leveled(1);
-  EXPECT_EQ(late.m_avecGrow[2][1], 0);
-  EXPECT_EQ(late.m_avecGrow[2][29], 200);
+  EXPECT_EQ(std::tie(late.m_avecGrow[2][1], late.m_avecGrow[2][29]), std::make_tuple(0, 200));
 
   // Limit levels 1 and 2 give no growth; the preview still ends at the final value.
   for (int limit : {1, 2}) {
@@ -240,27 +207,21 @@ TEST_F(CharaTest, LevellingKeepsStatusInsideItsRange) {
   ally.m_avecGrow[0][1] = -500;
   ally.m_nEX = 100;
   ally.GainEX(0);
-  EXPECT_EQ(ally.m_aParam[5].m_nBase, 9);
-  EXPECT_EQ(ally.m_anFrac[5], 70);
-  EXPECT_EQ(ally.m_aParam[0].m_nBase, 1);  // HP never ends a level below 1
-  EXPECT_EQ(ally.m_nLevel, 2);
+  // HP never ends a level below 1.
+  EXPECT_EQ(std::tie(ally.m_aParam[5].m_nBase, ally.m_anFrac[5], ally.m_aParam[0].m_nBase, ally.m_nLevel),
+            std::make_tuple(9, 70, 1, 2));
 
   // Far more experience than the limit: stops at the limit, reads nothing past it.
   ally.m_nEX = 100000;
   ally.GainEX(0);
-  EXPECT_EQ(ally.m_nLevel, 30);
-  EXPECT_EQ(ally.m_nEX, 0);
+  EXPECT_EQ(std::tie(ally.m_nLevel, ally.m_nEX), std::make_tuple(30, 0));
 }
 
 TEST_F(CharaTest, SeededGenerationIsRepeatableAndEnds) {
-  g_System.m_bScout = 1;
-  g_System.m_nGrowMin = 20;
-  g_System.m_nGrowMax = 20;
-  g_System.m_nGrowUnit = 0;  // a step of 0 must not stall the distribution
-  g_System.m_dGrowScout = g_System.m_dSenseScout = 0;
-  g_System.m_bRandomChange = 0;
-  g_System.m_nSenseMin = g_System.m_nSenseMax = 10;
-  g_System.m_nSenseUnit = 0;
+  // Steps of 0 must not stall the distribution.
+  g_System.m_bScout = 1, g_System.m_nGrowMin = g_System.m_nGrowMax = 20, g_System.m_nGrowUnit = 0;
+  g_System.m_dGrowScout = g_System.m_dSenseScout = 0, g_System.m_bRandomChange = 0;
+  g_System.m_nSenseMin = g_System.m_nSenseMax = 10, g_System.m_nSenseUnit = 0;
   std::fill(std::begin(g_System.m_adRate), std::end(g_System.m_adRate), 1.0);
   g_vecSkillList[0].m_vecSkill[1].m_nLearnRate = 100;
   auto generate = [](cChara& c) {
@@ -279,16 +240,13 @@ TEST_F(CharaTest, SeededGenerationIsRepeatableAndEnds) {
   generate(b);
   EXPECT_TRUE(Compare(a, b));
   EXPECT_EQ(a.m_nBuiltVersion, 290);
-  long long randomGrowth = 0;
-  for (const auto& grow : a.m_avecRandomGrow) {
-    for (int v : grow) randomGrowth += v;
-  }
-  EXPECT_EQ(randomGrowth, 2000);  // the whole total, in hundredths, spread over levels
-  int senseAdded = 0;
-  for (const auto& list : a.m_vecvecSenseAdd) {
-    for (int v : list) senseAdded += v;
-  }
-  EXPECT_EQ(senseAdded, 10);
+  auto sum = [](const auto& rows) {
+    long long total = 0;
+    for (const auto& row : rows) total = std::accumulate(row.begin(), row.end(), total);
+    return total;
+  };
+  EXPECT_EQ(sum(a.m_avecRandomGrow), 2000);  // the whole total, in hundredths, spread over levels
+  EXPECT_EQ(sum(a.m_vecvecSenseAdd), 10);
 
   // No status qualifies: random growth is skipped rather than searched for ever.
   std::fill(std::begin(g_System.m_adRate), std::end(g_System.m_adRate), 0.0);
@@ -297,24 +255,4 @@ TEST_F(CharaTest, SeededGenerationIsRepeatableAndEnds) {
   generate(enemy);
   EXPECT_EQ(enemy.m_vecvecSenseAdd[0][0], 0);  // enemies get no random sense or skills
   EXPECT_TRUE(enemy.m_vecLearnSkill.empty());
-}
-
-TEST_F(CharaTest, PreviewColumnsComeFromCopies) {
-  cEnemy enemy;
-  enemy.FixRefs();
-  enemy.m_nLevel = 30;
-  enemy.m_anInit[2] = 100;
-  enemy.m_anFinal[2] = 0;
-  g_System.m_anEnemyRate[3] = 50;
-  const cEnemy before = enemy;
-  CHARA_PREVIEW preview = PreviewChara(enemy);
-  ASSERT_TRUE(preview.bValid);
-  EXPECT_TRUE(Compare(enemy, before));
-  EXPECT_EQ(preview.anGame[2], 100);      // its own value, not grown
-  EXPECT_EQ(preview.anReference[2], 39);  // the class's final value
-  EXPECT_EQ(preview.anGame[3], 20);       // half of 39, rounded half away from zero
-  EXPECT_EQ(StatusPercent(-3, 50), -2);
-
-  enemy.m_nClass = 0;
-  EXPECT_FALSE(PreviewChara(enemy).bValid);
 }

@@ -54,20 +54,10 @@ class DatabaseTest : public ProjectDirTest {
  protected:
   void SetUp() override {
     ProjectDirTest::SetUp();
-    m_savedDatabase = g_Database;
-    m_savedLand = g_vecLand;
-    m_savedElem = g_System.m_vecElem;
     g_Database = cDatabase();
     g_vecLand.clear();
     SetTables(3, 2, 1);
   }
-  void TearDown() override {
-    g_Database = m_savedDatabase;
-    g_vecLand = m_savedLand;
-    g_System.m_vecElem = m_savedElem;
-    ProjectDirTest::TearDown();
-  }
-
   static void SetTables(int elements, int backs, int compatiTypes) {
     g_System.m_vecElem.resize(elements);
     g_Database.m_vecBack.resize(backs);
@@ -91,7 +81,5 @@ class DatabaseTest : public ProjectDirTest {
   }
 
  private:
-  cDatabase m_savedDatabase;
-  VECTOR_CLASS<cLand> m_savedLand;
-  VECTOR_CLASS<cElem> m_savedElem;
+  cGlobalsGuard<cDatabase, VECTOR_CLASS<cLand>, VECTOR_CLASS<cElem>> m_guard{g_Database, g_vecLand, g_System.m_vecElem};
 };

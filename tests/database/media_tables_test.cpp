@@ -1,6 +1,8 @@
 // The media and help tables: their bytes, their gates, the frame texts, the name that
 // follows a file, and the frame player.
 
+#include <tuple>
+
 #include "database/anim.h"
 #include "database/anim_player.h"
 #include "database/help.h"
@@ -31,10 +33,7 @@ cDbStream EffectFrame(std::uint32_t version) {
 template <class Frame>
 Frame MakeFrame(int frame, int time, int moveX, int moveY) {
   Frame f;
-  f.m_nFrame = frame;
-  f.m_nTime = time;
-  f.m_nMoveX = moveX;
-  f.m_nMoveY = moveY;
+  f.m_nFrame = frame, f.m_nTime = time, f.m_nMoveX = moveX, f.m_nMoveY = moveY;
   return f;
 }
 
@@ -78,9 +77,8 @@ TEST_F(MediaTablesTest, PartyValueAndMusicGates) {
     file.Int(42);
     VECTOR_CLASS<cPtVal> vals;
     ASSERT_EQ(LoadBytes(vals, file), 1) << version;
-    EXPECT_EQ(vals[0].m_nCommonVar, 7);
-    EXPECT_EQ(vals[0].m_bShowSave, version >= 31 ? 1 : 0) << version;
-    EXPECT_EQ(vals[0].m_nReserved, 42) << version;
+    EXPECT_EQ(std::tie(vals[0].m_nCommonVar, vals[0].m_bShowSave, vals[0].m_nReserved),
+              std::make_tuple(7, version >= 31 ? 1 : 0, 42)) << version;
     EXPECT_EQ(SavedVector(vals), cDbStream::File(290)
                                      .Int(1).Text("G").Text("P").Int(7).Int(-5).Int(500).Int(1)
                                      .Int(version >= 31 ? 1 : 0).Int(42).bytes)
@@ -92,8 +90,7 @@ TEST_F(MediaTablesTest, PartyValueAndMusicGates) {
     if (version >= 100) file.Int(40);
     VECTOR_CLASS<cEdBgm> bgms;
     ASSERT_EQ(LoadBytes(bgms, file), 1) << version;
-    EXPECT_EQ(bgms[0].m_strPath, "bgm\\a.ogg");
-    EXPECT_EQ(bgms[0].m_nVolume, version >= 100 ? 40 : 100) << version;
+    EXPECT_EQ(std::tie(bgms[0].m_strPath, bgms[0].m_nVolume), std::make_tuple("bgm\\a.ogg", version >= 100 ? 40 : 100));
   }
 }
 
@@ -103,34 +100,25 @@ TEST_F(MediaTablesTest, AnimationFrameGates) {
     ASSERT_EQ(LoadBytes(pats, cDbStream::File(version).Int(1).Text("a").Short(12).Int(1).Append(CharaFrame(version))), 1)
         << version;
     const cCharaAnim& frame = pats[0].m_vecAnim[0];
-    EXPECT_EQ(pats[0].m_sPreview, 12);
-    EXPECT_EQ(frame.m_bStartEffect, 1) << version;
-    EXPECT_EQ(frame.m_nMoveX, version >= 28 ? 3 : 0) << version;
-    EXPECT_EQ(frame.m_nMoveY, version >= 28 ? -2 : 0) << version;
-    EXPECT_EQ(frame.m_bWarp, version >= 120 ? 1 : 0) << version;  // no migration for characters
+    // No warp migration for characters.
+    EXPECT_EQ(std::tie(pats[0].m_sPreview, frame.m_bStartEffect, frame.m_nMoveX, frame.m_nMoveY, frame.m_bWarp),
+              std::make_tuple(12, 1, version >= 28 ? 3 : 0, version >= 28 ? -2 : 0, version >= 120 ? 1 : 0))
+        << version;
   }
   for (std::uint32_t version : {28u, 29u, 200u, 201u}) {
     VECTOR_CLASS<cEffectAnimPat> pats;
     ASSERT_EQ(LoadBytes(pats, cDbStream::File(version).Int(1).Text("a").Short(3).Int(1).Append(EffectFrame(version))), 1)
         << version;
     const cEffectAnim& frame = pats[0].m_vecAnim[0];
-    EXPECT_EQ(frame.m_nMoveX, version >= 29 ? 3 : 0) << version;
-    EXPECT_EQ(frame.m_bWarp, version >= 201 ? 0 : 1) << version;  // warped before the flag was stored
+    // Effects warped before the flag was stored.
+    EXPECT_EQ(std::tie(frame.m_nMoveX, frame.m_bWarp), std::make_tuple(version >= 29 ? 3 : 0, version >= 201 ? 0 : 1))
+        << version;
     EXPECT_EQ(SavedVector(pats), cDbStream::File(290)
                                      .Int(1).Text("a").Short(3).Int(1)
                                      .Int(5).Int(10).Int(frame.m_nMoveX).Int(frame.m_nMoveY).Int(version >= 201 ? 0 : 1)
                                      .bytes)
         << version;
   }
-}
-
-TEST(AnimFrameTexts, MovesAndEffectStart) {
-  cCharaAnim chara = MakeFrame<cCharaAnim>(5, 10, 3, -2);
-  chara.m_bStartEffect = 1;
-  EXPECT_EQ(AnimFrameText(chara), CP932_TEXT("5-10 X+3 Y-2 エフェクト開始"));
-  chara = MakeFrame<cCharaAnim>(5, 10, 0, 0);
-  EXPECT_EQ(AnimFrameText(chara), "5-10");
-  EXPECT_EQ(AnimFrameText(MakeFrame<cEffectAnim>(0, 0, -640, 480)), "0-0 X-640 Y+480");
 }
 
 TEST(FileNames, NameFollowsThePathWhenAsked) {

@@ -54,13 +54,9 @@ VECTOR_CLASS<cSkill> VariedSkills(int count) {
   for (int i = 1; i <= count; ++i) {
     cSkill& s = skills[static_cast<std::size_t>(i)];
     s.m_strName = Cp(i % 3 ? "炎の剣" : "氷,雷") + std::to_string(i % 100);
-    s.m_strDesc = Cp("説明　") + std::string(static_cast<std::size_t>(i % 30 + 1), 'x');
-    s.m_nPrice = i * 997 % 1000000;
-    s.m_nElemValue = i % 1999 - 999;
-    s.m_nEffectValue = -i * 31;
-    s.m_dLearnRateSense = (i % 1001) / 10.0;
-    s.m_dLearnLvSense = (i * 7 % 1001) / 10.0;
-    s.m_dSortNumber = (i * 13 % 99999) / 100.0;
+    s.m_strDesc = Cp("説明　") + std::string(static_cast<std::size_t>(i % 30 + 1), 'x'), s.m_nPrice = i * 997 % 1000000;
+    s.m_nElemValue = i % 1999 - 999, s.m_nEffectValue = -i * 31, s.m_dLearnRateSense = (i % 1001) / 10.0;
+    s.m_dLearnLvSense = (i * 7 % 1001) / 10.0, s.m_dSortNumber = (i * 13 % 99999) / 100.0;
     for (int k = 0; k < kStatusCount; ++k) {
       s.m_anSubEffectA[k] = i * (k + 1) - 500;
       s.m_anSubEffectB[k] = -i * (k + 2);
@@ -94,13 +90,8 @@ using SkillCsvTest = ProjectDirTest;
 TEST_F(SkillCsvTest, AOneSkillTableWritesTheseBytes) {
   VECTOR_CLASS<cSkill> skills(2);
   cSkill& s = skills[1];
-  s.m_strName = Cp("火,炎");
-  s.m_strDesc = Cp("熱い");
-  s.m_dLearnRateSense = 0.5;
-  s.m_dSortNumber = 1.5;
-  s.m_nElemValue = -5;
-  s.m_anSubEffectB[8] = 7;
-  s.m_byAlpha = 128;
+  s.m_strName = Cp("火,炎"), s.m_strDesc = Cp("熱い"), s.m_dLearnRateSense = 0.5, s.m_dSortNumber = 1.5;
+  s.m_nElemValue = -5, s.m_anSubEffectB[8] = 7, s.m_byAlpha = 128;
   ASSERT_EQ(SaveSkillCsv(skills, SkillCsvTypeName(1), "Skill01.csv", "Skill01.csv"), 1);
 
   const char* expected =
@@ -292,8 +283,7 @@ TEST_F(SkillCsvTest, ColumnsGoByTheirHeaders) {
   for (std::size_t s = 1; s <= 4; ++s) {
     EXPECT_EQ(table[s].m_anSubEffectA[0], 77);  // no column: kept
     EXPECT_EQ(table[s].m_nPrice, 5);
-    table[s].m_anSubEffectA[0] = source[s].m_anSubEffectA[0];
-    table[s].m_nPrice = source[s].m_nPrice;
+    table[s].m_anSubEffectA[0] = source[s].m_anSubEffectA[0], table[s].m_nPrice = source[s].m_nPrice;
     table[s].m_nKind = source[s].m_nKind;
   }
   ExpectSameTables(table, source);

@@ -1,5 +1,7 @@
 // Skills: their bytes, their migrations and what each kind allows.
 
+#include <tuple>
+
 #include "database/skill.h"
 #include "database/skill_kind_rules.h"
 #include "database/record_stream.h"
@@ -43,29 +45,23 @@ TEST_F(SkillTest, ADefaultSkillIs327BytesWithItsDefaultsInPlace) {
 
 TEST_F(SkillTest, MigrationsRunAtTheirVersions) {
   cSkill old;
-  old.m_nKind = kSkillMagicWeapon;
-  old.m_nWeaponType = 1;
-  old.m_nScale = 150;
-  old.m_nDamageRate = 50;
-  old.m_nLearnRateSenseOld = 3;
+  old.m_nKind = kSkillMagicWeapon, old.m_nWeaponType = 1, old.m_nScale = 150;
+  old.m_nDamageRate = 50, old.m_nLearnRateSenseOld = 3;
 
   // Below 261 "magic weapon" was armour, and there was no weapon type.
-  cSkill at260 = LoadedFrom<cSkill>(StreamAtVersion(old, 260));
-  EXPECT_EQ(at260.m_nKind, kSkillArmour);
-  EXPECT_EQ(at260.m_nWeaponType, 0);
-  cSkill at261 = LoadedFrom<cSkill>(StreamAtVersion(old, 261));
-  EXPECT_EQ(at261.m_nKind, kSkillMagicWeapon);
-  EXPECT_EQ(at261.m_nWeaponType, 1);
+  cSkill at260 = LoadedFrom<cSkill>(StreamAtVersion(old, 260)), at261 = LoadedFrom<cSkill>(StreamAtVersion(old, 261));
+  EXPECT_EQ(std::tie(at260.m_nKind, at260.m_nWeaponType), std::make_tuple(int{kSkillArmour}, 0));
+  EXPECT_EQ(std::tie(at261.m_nKind, at261.m_nWeaponType), std::make_tuple(int{kSkillMagicWeapon}, 1));
 
   // The sense bonus became a fraction at 122.
   EXPECT_EQ(LoadedFrom<cSkill>(StreamAtVersion(old, 121)).m_dLearnRateSense, 3.0);
   old.m_dLearnRateSense = 0.5;
   EXPECT_EQ(LoadedFrom<cSkill>(StreamAtVersion(old, 122)).m_dLearnRateSense, 0.5);
 
-  EXPECT_EQ(LoadedFrom<cSkill>(StreamAtVersion(old, 78)).m_nDamageRate, 100);
-  EXPECT_EQ(LoadedFrom<cSkill>(StreamAtVersion(old, 79)).m_nDamageRate, 50);
-  EXPECT_EQ(LoadedFrom<cSkill>(StreamAtVersion(old, 35)).m_nScale, 200);
-  EXPECT_EQ(LoadedFrom<cSkill>(StreamAtVersion(old, 36)).m_nScale, 150);
+  for (auto [version, damage, scale] : {std::tuple{35u, 100, 200}, {36u, 100, 150}, {78u, 100, 150}, {79u, 50, 150}}) {
+    cSkill loaded = LoadedFrom<cSkill>(StreamAtVersion(old, version));
+    EXPECT_EQ(std::tie(loaded.m_nDamageRate, loaded.m_nScale), std::make_tuple(damage, scale)) << version;
+  }
 }
 
 TEST_F(SkillTest, DroppedFieldsOfOldFilesAreSkipped) {
@@ -75,8 +71,7 @@ TEST_F(SkillTest, DroppedFieldsOfOldFilesAreSkipped) {
   // Version 4 holds a text where the sound is now.
   g_strScratch = "old text";
   cSkill at4 = LoadedFrom<cSkill>(StreamAtVersion(old, 4));
-  EXPECT_EQ(at4.m_nSound, 1);
-  EXPECT_EQ(at4.m_strReserved, "r");
+  EXPECT_EQ(std::tie(at4.m_nSound, at4.m_strReserved), std::make_tuple(1, "r"));
   // Version 38 holds two more integers behind the colours.
   old.m_nLearnRate = 33;
   EXPECT_EQ(StreamAtVersion(old, 38).size(), StreamAtVersion(old, 39).size() + 8);
@@ -85,12 +80,10 @@ TEST_F(SkillTest, DroppedFieldsOfOldFilesAreSkipped) {
 
 TEST_F(SkillTest, ReferencesBeyondTheirTablesAreRepairedAtLoadAndSave) {
   cSkill skill;
-  skill.m_nCompatiType = 3;
-  skill.m_nElem = 3;
+  skill.m_nCompatiType = 3, skill.m_nElem = 3;
   EXPECT_EQ(skill.m_nCompatiType, 3);  // nothing repairs it before a load or save
   std::vector<unsigned char> saved = SavedStream(skill);
-  EXPECT_EQ(skill.m_nCompatiType, 0);
-  EXPECT_EQ(skill.m_nElem, 3);
+  EXPECT_EQ(std::tie(skill.m_nCompatiType, skill.m_nElem), std::make_tuple(0, 3));
 
   g_System.m_vecElem.resize(2);
   EXPECT_EQ(LoadedFrom<cSkill>(saved).m_nElem, 0);
@@ -106,8 +99,7 @@ TEST_F(SkillTest, EachKindSetsItsTargetAndClearsWhatItDoesNotAllow) {
   const int targets[kSkillKindCount] = {1, 1, 0, 0, 2, 0, 3, 0, 0, 0};
   for (int kind = 0; kind < kSkillKindCount; ++kind) {
     cSkill skill;
-    skill.m_nKind = kind;
-    skill.m_bUseMapSkill = skill.m_bUseMapStock = skill.m_bUseBattleSkill = 1;
+    skill.m_nKind = kind, skill.m_bUseMapSkill = skill.m_bUseMapStock = skill.m_bUseBattleSkill = 1;
     skill.m_bUseBattleQuick = skill.m_bUseBattleStock = 1;
     skill.m_bSubEffectAPercent = skill.m_bEffectOfWeapon = skill.m_bCompatiOfWeapon = 1;
     SKILL_CONTROL_STATES on = ApplySkillKindRules(skill);
@@ -135,41 +127,28 @@ TEST_F(SkillTest, EachKindSetsItsTargetAndClearsWhatItDoesNotAllow) {
 
 TEST_F(SkillTest, OwnOrWeaponAndResourceFieldsFollowTheirFlags) {
   cSkill attack;
-  attack.m_nKind = kSkillPhysicalAttack;
-  attack.m_bCompatiOfWeapon = 1;
-  attack.m_bHitOfWeapon = 1;
-  SKILL_CONTROL_STATES on = ApplySkillKindRules(attack);
-  EXPECT_FALSE(on[kCtlCompatiType]);
-  EXPECT_TRUE(on[kCtlElem]);
-  EXPECT_FALSE(on[kCtlHitRate]);
-  EXPECT_TRUE(on[kCtlEffectGroup]);
-  EXPECT_TRUE(on[kCtlCostSP]);
-  EXPECT_FALSE(on[kCtlUseLimit]);
-
+  // Which of the listed controls are enabled, as a string of 0 and 1.
+  auto enabled = [](cSkill& skill, std::initializer_list<int> controls) {
+    SKILL_CONTROL_STATES on = ApplySkillKindRules(skill);
+    std::string out;
+    for (int control : controls) out += on[control] ? '1' : '0';
+    return out;
+  };
+  attack.m_nKind = kSkillPhysicalAttack, attack.m_bCompatiOfWeapon = 1, attack.m_bHitOfWeapon = 1;
+  EXPECT_EQ(enabled(attack, {kCtlCompatiType, kCtlElem, kCtlHitRate, kCtlEffectGroup, kCtlCostSP, kCtlUseLimit}), "010110");
   attack.m_nResourceType = 1;
-  on = ApplySkillKindRules(attack);
-  EXPECT_FALSE(on[kCtlCostSP]);
-  EXPECT_TRUE(on[kCtlUseLimit]);
+  EXPECT_EQ(enabled(attack, {kCtlCostSP, kCtlUseLimit}), "01");
   attack.m_bUnlimited = 1;
-  EXPECT_FALSE(ApplySkillKindRules(attack)[kCtlUseLimit]);
+  EXPECT_EQ(enabled(attack, {kCtlUseLimit}), "0");
 
   cSkill weapon;
-  weapon.m_nKind = kSkillPhysicalWeapon;
-  weapon.m_bSortNumber = 1;
-  on = ApplySkillKindRules(weapon);
-  EXPECT_TRUE(on[kCtlCompatiType]);
-  EXPECT_TRUE(on[kCtlEffectGroup]);
-  EXPECT_TRUE(on[kCtlSortNumber]);
-  EXPECT_FALSE(on[kCtlCostSP]);
+  weapon.m_nKind = kSkillPhysicalWeapon, weapon.m_bSortNumber = 1;
+  EXPECT_EQ(enabled(weapon, {kCtlCompatiType, kCtlEffectGroup, kCtlSortNumber, kCtlCostSP}), "1110");
 
   // A kind a damaged file brings changes nothing.
   cSkill odd;
-  odd.m_nKind = 12;
-  odd.m_nTarget = 3;
-  odd.m_bUseMapSkill = 1;
-  on = ApplySkillKindRules(odd);
-  EXPECT_EQ(odd.m_nTarget, 3);
-  EXPECT_EQ(odd.m_bUseMapSkill, 1);
-  EXPECT_FALSE(on[kCtlEffectValue]);
+  odd.m_nKind = 12, odd.m_nTarget = 3, odd.m_bUseMapSkill = 1;
+  EXPECT_EQ(enabled(odd, {kCtlEffectValue}), "0");
+  EXPECT_EQ(std::tie(odd.m_nTarget, odd.m_bUseMapSkill), std::make_tuple(3, 1));
   EXPECT_EQ(TargetOfKind(-1), -1);
 }

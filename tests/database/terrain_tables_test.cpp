@@ -1,6 +1,8 @@
 // Terrain, elements, compatibility types and world chips: their bytes, their gates and
 // the repair of their references.
 
+#include <tuple>
+
 #include "database/compati_type.h"
 #include "database/elem.h"
 #include "database/land.h"
@@ -31,10 +33,7 @@ cDbStream OneLand(std::uint32_t version, std::int32_t moveCost, std::vector<std:
 
 cInfl Rule(int target, int what = 0, int op = 0, int value = 0) {
   cInfl infl;
-  infl.m_nTarget = target;
-  infl.m_nWhat = what;
-  infl.m_nOp = op;
-  infl.m_nValue = value;
+  infl.m_nTarget = target, infl.m_nWhat = what, infl.m_nOp = op, infl.m_nValue = value;
   return infl;
 }
 
@@ -74,24 +73,20 @@ TEST_F(TerrainTablesTest, DefaultRecordsAt290) {
 TEST_F(TerrainTablesTest, LandGatesAtRatesAndBackground) {
   // 93 has no rates: each terrain gets one 100 per element. 94 has them.
   for (std::uint32_t version : {65u, 66u, 93u, 94u}) {
+    SCOPED_TRACE(version);
     VECTOR_CLASS<cLand> lands;
     ASSERT_EQ(LoadBytes(lands, OneLand(version, 3, {100, 80, 120}, 0)), 1) << version;
     const cLand& land = lands[0];
-    EXPECT_EQ(land.m_nMoveCost, 3) << version;
-    EXPECT_EQ(land.m_nGraphic, 17) << version;
-    EXPECT_EQ(land.m_anStatus[8], 40) << version;
-    EXPECT_EQ(land.m_nSpecialValue, 150) << version;
-    EXPECT_EQ(land.m_strDesc, "slow going") << version;
+    EXPECT_EQ(std::tie(land.m_nMoveCost, land.m_nGraphic, land.m_anStatus[8], land.m_nSpecialValue, land.m_strDesc),
+              std::make_tuple(3, 17, 40, 150, "slow going"));
     const std::vector<std::int32_t> rates(land.m_vecElemRate.begin(), land.m_vecElemRate.end());
-    const std::vector<std::int32_t> expected =
-        version >= 94 ? std::vector<std::int32_t>{100, 80, 120} : std::vector<std::int32_t>{100, 100, 100};
-    EXPECT_EQ(rates, expected) << version;
+    EXPECT_EQ(rates, (version >= 94 ? std::vector<std::int32_t>{100, 80, 120} : std::vector<std::int32_t>{100, 100, 100}));
     // Before 66 the background is not stored and keeps its default; from 66 a stored 0
     // is a row of the table and stays.
-    EXPECT_EQ(land.m_nBack, version >= 66 ? 0 : 1) << version;
+    EXPECT_EQ(land.m_nBack, version >= 66 ? 0 : 1);
 
     // Saved, the old text is gone and the fields stand in the current order.
-    EXPECT_EQ(SavedVector(lands), OneLand(290, 3, rates, land.m_nBack).bytes) << version;
+    EXPECT_EQ(SavedVector(lands), OneLand(290, 3, rates, land.m_nBack).bytes);
   }
 }
 
@@ -103,13 +98,10 @@ TEST_F(TerrainTablesTest, LandRatesFollowTheElementTable) {
 
   SetTables(7, 2, 1);
   land.FixRefs();
-  EXPECT_EQ(std::vector<std::int32_t>(land.m_vecElemRate.begin(), land.m_vecElemRate.end()),
-            (std::vector<std::int32_t>{100, 10, 20, 30, 40, 100, 100}));
-
+  EXPECT_EQ(land.m_vecElemRate, (VECTOR_CLASS<std::int32_t>{100, 10, 20, 30, 40, 100, 100}));
   SetTables(3, 2, 1);
   land.FixRefs();
-  EXPECT_EQ(std::vector<std::int32_t>(land.m_vecElemRate.begin(), land.m_vecElemRate.end()),
-            (std::vector<std::int32_t>{100, 10, 20}));
+  EXPECT_EQ(land.m_vecElemRate, (VECTOR_CLASS<std::int32_t>{100, 10, 20}));
 
   // The cut rates do not come back.
   SetTables(5, 2, 1);
@@ -140,9 +132,7 @@ TEST_F(TerrainTablesTest, LandMoveCostAndBackgroundRepair) {
   SetTables(3, 0, 1);
   lands[0].m_vecElemRate.assign({1, 2, 3});
   lands[0].SetDefault();
-  EXPECT_EQ(lands[0].m_nBack, 1);
-  EXPECT_EQ(std::vector<std::int32_t>(lands[0].m_vecElemRate.begin(), lands[0].m_vecElemRate.end()),
-            (std::vector<std::int32_t>{100, 100, 100}));
+  EXPECT_EQ(std::tie(lands[0].m_nBack, lands[0].m_vecElemRate), std::make_tuple(1, VECTOR_CLASS<std::int32_t>{100, 100, 100}));
 }
 
 TEST_F(TerrainTablesTest, RulesBeyondTheTableAreRemovedWithoutSkipping) {

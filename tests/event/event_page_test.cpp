@@ -47,8 +47,7 @@ TEST_F(EventPageTest, ReferencesBeyondTheirTablesBecomeZero) {
   for (auto [value, expected] : {std::pair{2, 2}, {3, 0}, {40, 0}, {-1, -1}}) {  // 3 allies, 3 groups
     page.m_nFriendCond = page.m_nPosGroup = value;
     cEventPage loaded = LoadedFrom<cEventPage>(SavedStream(page));
-    EXPECT_EQ(loaded.m_nFriendCond, expected);
-    EXPECT_EQ(loaded.m_nPosGroup, expected);
+    EXPECT_EQ(std::tie(loaded.m_nFriendCond, loaded.m_nPosGroup), std::make_tuple(expected, expected));
   }
   g_Stage.m_vecGroupPos.resize(1);
   EXPECT_EQ(cEvent().m_vecPage.at(0).m_nPosGroup, 0);  // a new event's one page, clamped as it is made

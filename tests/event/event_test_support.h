@@ -18,7 +18,6 @@ class EventTest : public ProjectDirTest {
  protected:
   void SetUp() override {
     ProjectDirTest::SetUp();
-    m_saved = {g_Database, g_vecLand, g_vecSkillList, g_vecFriend, g_vecGValInfo, g_Stage};
     g_Database.m_vecPicture.resize(4);
     g_Database.m_vecSound.resize(3);
     g_Database.m_vecBgm.resize(3);
@@ -37,15 +36,10 @@ class EventTest : public ProjectDirTest {
         {&g_vecGValInfo[5].m_strName, "所持数"}};
     for (const auto& [field, name] : names) *field = Cp932FromLiteral(name);
   }
-  void TearDown() override {
-    std::tie(g_Database, g_vecLand, g_vecSkillList, g_vecFriend, g_vecGValInfo, g_Stage) = m_saved;
-    ProjectDirTest::TearDown();
-  }
-
  private:
-  std::tuple<cDatabase, VECTOR_CLASS<cLand>, VECTOR_CLASS<cSkillList>, VECTOR_CLASS<cFriend>, VECTOR_CLASS<cGValInfo>,
-             cStage>
-      m_saved;
+  cGlobalsGuard<cDatabase, VECTOR_CLASS<cLand>, VECTOR_CLASS<cSkillList>, VECTOR_CLASS<cFriend>, VECTOR_CLASS<cGValInfo>,
+                cStage>
+      m_guard{g_Database, g_vecLand, g_vecSkillList, g_vecFriend, g_vecGValInfo, g_Stage};
 };
 
 inline cEventAct MakeAct(int kind, std::vector<int> ints, std::vector<std::string> strs = {}) {

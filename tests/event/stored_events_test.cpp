@@ -32,8 +32,7 @@ TEST_F(StoredEventsTest, VariableLabelsAreNumberedFromOneOrHeadedByNone) {
   EXPECT_EQ(labels[11], "012 ");
   BuildVarLabelsWithNone(labels);
   ASSERT_EQ(labels.size(), 1000u);
-  EXPECT_EQ(labels[0], CP932_TEXT("コモン変数条件なし"));
-  EXPECT_EQ(labels[5], CP932_TEXT("005 所持数"));
+  EXPECT_EQ(std::tie(labels[0], labels[5]), std::make_tuple(CP932_TEXT("コモン変数条件なし"), CP932_TEXT("005 所持数")));
   g_vecGValInfo.clear();  // before the names are loaded the rows still stand
   BuildVarLabels(labels);
   EXPECT_EQ(labels.size(), 999u);

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QTimer>
 #include <filesystem>
+#include <tuple>
 
 #include "app/app_frame.h"
 #include "app/single_instance.h"
@@ -33,20 +34,17 @@ TEST_F(AppStartTest, FreshProjectRunsEveryStepInOrderAndAsksTheBattleModeOnce) {
                                                     "battle mode", "sound", "main window", "done"}));
   ASSERT_EQ(m_prompt.shown.size(), 1u);
   EXPECT_EQ(m_prompt.shown[0].caption, CP932_TEXT("デフォルトデータ作成の確認"));
-  EXPECT_EQ(first.dialogs, 1);
-  EXPECT_TRUE(first.iniReadAtDialog);
-  EXPECT_FALSE(first.soundAtDialog);
-  EXPECT_EQ(first.windows, 1);
+  // The template remembers its sample stage.
+  EXPECT_EQ(std::tie(first.dialogs, first.iniReadAtDialog, first.soundAtDialog, first.windows, g_bStartupDone,
+                     g_EditState.m_bStageOpen),
+            std::make_tuple(1, true, false, 1, 1, 1));
   EXPECT_TRUE(fs::is_directory("data/stg") && fs::is_directory("user_data") && fs::is_directory("image/picture"));
-  EXPECT_EQ(g_bStartupDone, 1);
-  EXPECT_EQ(g_EditState.m_bStageOpen, 1);  // the template remembers its sample stage
 
   g_EditState.m_nPalette = 2;
   ShutDown();
   cEditConfig saved;
   ASSERT_EQ(saved.LoadFile(kEditConfigPath), 1);
-  EXPECT_EQ(saved.m_nPalette, 2);
-  EXPECT_EQ(saved.m_strStagePath, g_EditState.m_strStagePath);
+  EXPECT_EQ(std::tie(saved.m_nPalette, saved.m_strStagePath), std::make_tuple(2, g_EditState.m_strStagePath));
   VECTOR_CLASS<cGValInfo> names;
   ASSERT_EQ(LoadVector(names, kGValInfoPath), 1);
   EXPECT_EQ(names.Count(), kCommonVarRows);
@@ -56,9 +54,7 @@ TEST_F(AppStartTest, FreshProjectRunsEveryStepInOrderAndAsksTheBattleModeOnce) {
   g_EditState = cEditState{};
   cRecordingShell second;
   ASSERT_TRUE(StartUp(second));
-  EXPECT_EQ(m_prompt.shown.size(), 1u);
-  EXPECT_EQ(second.dialogs, 0);
-  EXPECT_EQ(g_EditState.m_nPalette, 2);
+  EXPECT_EQ(std::make_tuple(m_prompt.shown.size(), second.dialogs, g_EditState.m_nPalette), std::make_tuple(1u, 0, 2));
   ShutDown();
 }
 
@@ -74,9 +70,7 @@ TEST_F(AppStartTest, RefusedOrClosedFirstRunEndsBeforeTheWindow) {
     cRecordingShell shell;
     shell.dialogResult = c.dialogResult;
     EXPECT_FALSE(StartUp(shell));
-    EXPECT_EQ(shell.steps.back(), c.lastStep);
-    EXPECT_EQ(shell.windows, 0);
-    EXPECT_EQ(g_bStartupDone, 0);
+    EXPECT_EQ(std::tie(shell.steps.back(), shell.windows, g_bStartupDone), std::make_tuple(c.lastStep, 0, 0));
   }
 }
 
@@ -116,8 +110,8 @@ TEST_F(AppStartTest, SecondStartAsksAndGoesOnOnlyOnYes) {
   }
   ASSERT_EQ(m_prompt.shown.size(), 2u);
   EXPECT_EQ(m_prompt.shown[0].text, CP932_TEXT("既に起動しています。\n二重起動しますか？  ※非推奨。データの上書き保存に注意！\n"));
-  EXPECT_EQ(m_prompt.shown[0].caption, CP932_TEXT("二重起動"));
-  EXPECT_EQ(m_prompt.shown[0].style, static_cast<unsigned>(MB_YESNO));
+  EXPECT_EQ(std::tie(m_prompt.shown[0].caption, m_prompt.shown[0].style),
+            std::make_tuple(CP932_TEXT("二重起動"), static_cast<unsigned>(MB_YESNO)));
 }
 
 TEST_F(AppStartTest, BattleModeDialogSavesTheChosenModeAndTheTurnModeWithIt) {
@@ -135,8 +129,7 @@ TEST_F(AppStartTest, BattleModeDialogSavesTheChosenModeAndTheTurnModeWithIt) {
   EXPECT_EQ(RunBattleModeDialog(), 1);
   cSystem saved;
   ASSERT_EQ(saved.LoadFile(kSystemPath), 1);
-  EXPECT_EQ(saved.m_nBattleMode, 1);
-  EXPECT_EQ(saved.m_nTurnMode, 1);
+  EXPECT_EQ(std::tie(saved.m_nBattleMode, saved.m_nTurnMode), std::make_tuple(1, 1));
 }
 
 }  // namespace

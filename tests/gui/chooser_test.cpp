@@ -22,8 +22,7 @@ TEST(GraphicChooser, ValueOfTheCellUnderAPointInEachKind) {
   };
   for (const Case& c : cases)
     EXPECT_EQ(GraphicValueAt(c.kind, c.px, c.py), c.value) << c.kind << " " << c.px << "," << c.py;
-  EXPECT_EQ(GraphicValueAt(4, 0, 0), -1);
-  EXPECT_EQ(GraphicValueAt(-1, 0, 0), -1);
+  EXPECT_EQ(std::make_pair(GraphicValueAt(4, 0, 0), GraphicValueAt(-1, 0, 0)), std::make_pair(-1, -1));
 }
 
 void SendMouse(QWidget* w, QEvent::Type type, QPoint p) {
@@ -61,18 +60,6 @@ TEST(GraphicChooser, FramesTheCellUnderTheMouseAndAClickEndsWithItsValue) {
   EXPECT_EQ(ChooseGraphic(2, &value, nullptr), 1);
   EXPECT_EQ(value, 8);
   g_aSheet[34].Release();
-}
-
-TEST(GraphicChooser, ClosingLeavesTheValue) {
-  int value = 33;
-  DuringChooser([&](DLG_SELECTGRAPHIC& form) {
-    EXPECT_EQ(form.m_hWnd->size(), QSize(768, 480));
-    SendMouse(form.m_View.m_hWnd, QEvent::MouseMove, {100, 100});
-    form.m_hWnd->close();
-  });
-  EXPECT_EQ(ChooseGraphic(0, &value, nullptr), 0);
-  EXPECT_EQ(value, 33);
-  EXPECT_EQ(ChooseGraphic(4, &value, nullptr), 0);  // no such kind: nothing opens
 }
 
 }  // namespace

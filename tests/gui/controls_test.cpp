@@ -93,21 +93,6 @@ TEST(ListControl, RowsSelectionEditRecordAndCommitAgree) {
   form.End(0);
 }
 
-TEST(Slider, AMoveShowsInTheMirrorAndAnnouncesItself) {
-  DLG_ROWS form(VECTOR_CLASS<int>{1});
-  ASSERT_TRUE(form.Create(0, false));
-  auto* slider = static_cast<QSlider*>(form.GetDlgItem(DLG_ROWS::kSlider));
-  auto* mirror = static_cast<QLineEdit*>(form.GetDlgItem(DLG_ROWS::kMirror));
-  EXPECT_EQ(slider->value(), 12);
-  EXPECT_EQ(mirror->text(), "12");
-  const int before = form.m_nSliderCommands;
-  slider->setValue(33);  // as a drag does
-  EXPECT_EQ(mirror->text(), "33");
-  EXPECT_EQ(form.m_nSliderCommands, before + 1);
-  EXPECT_EQ(form.m_sLevel, 33);  // a form with a list applies every change at once
-  form.End(0);
-}
-
 TEST(Combo, AValueOutsideTheTableShowsNoRowAndShrunkLabelsKeepTheLastRow) {
   DLG_ROWS form(VECTOR_CLASS<int>{1});
   ASSERT_TRUE(form.Create(0, false));

@@ -31,24 +31,6 @@ TEST(MapScrollTest, BarsRunOverTheCellsWithAPageOfTheCellsInView) {
   }
 }
 
-TEST(MapScrollTest, WheelGoesUpByNotchesAndDownByOne) {
-  // Ten notches up or more read as a large word, like any move down.
-  struct Case {
-    int amount, delta;
-  } cases[] = {{120, -1}, {360, -3}, {1080, -9}, {1200, 1}, {-120, 1}, {-600, 1}, {60, 0}};
-  for (const Case& c : cases) EXPECT_EQ(WheelScrollDelta(c.amount), c.delta) << c.amount;
-  EXPECT_EQ(CellOfPixel(3, 70), 5);
-  EXPECT_EQ(CellOfPixel(3, -1), 2);
-}
-
-TEST(IdleFrameTest, FrameCounterHoldsTheFramesOfTheLastWholeSecond) {
-  for (std::uint32_t start : {0u, 0xFFFFFF00u}) {  // also across the clock's wrap
-    cFrameCounter counter;
-    for (int i = 0; i <= 40; ++i) counter.Tick(start + static_cast<std::uint32_t>(i * kIdleFrameMs));
-    EXPECT_EQ(counter.LastSecond(), 20) << start;
-  }
-}
-
 bool g_bPreview = false;
 
 TEST(IdleFrameTest, TimerRunsOnlyWhileAPreviewShowsInTheActiveApplicationOutsideATestPlay) {

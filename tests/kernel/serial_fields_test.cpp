@@ -1,6 +1,7 @@
 // The bytes each field function puts on disk, and what each does for the other walks.
 
 #include <cmath>
+#include <tuple>
 
 #include "kernel/test_records.h"
 #include "support/test_env.h"
@@ -23,26 +24,6 @@ SerialFilePtr Reader(std::vector<unsigned char> body) {
 }
 
 }  // namespace
-
-TEST(SerialFieldBytes, ScalarsAndArraysAreLittleEndianAtTheirWidth) {
-  std::int32_t i = -2;
-  std::uint32_t u = 0x01020304;
-  std::int16_t s = 0x1234;
-  std::uint8_t b = 0xAB;
-  double d = 1.5;
-  std::int32_t ai[2] = {1, 0x100};
-  double ad[1] = {-2.0};
-  EXPECT_EQ(Written([&](cSerialFile* f) { SerialInt(SERIAL_WRITE, i, nullptr, f); }), Bytes({0xFE, 0xFF, 0xFF, 0xFF}));
-  EXPECT_EQ(Written([&](cSerialFile* f) { SerialInt(SERIAL_WRITE, u, nullptr, f); }), Bytes({4, 3, 2, 1}));
-  EXPECT_EQ(Written([&](cSerialFile* f) { SerialShort(SERIAL_WRITE, s, nullptr, f); }), Bytes({0x34, 0x12}));
-  EXPECT_EQ(Written([&](cSerialFile* f) { SerialByte(SERIAL_WRITE, b, nullptr, f); }), Bytes({0xAB}));
-  EXPECT_EQ(Written([&](cSerialFile* f) { SerialDouble(SERIAL_WRITE, d, nullptr, f); }),
-            Bytes({0, 0, 0, 0, 0, 0, 0xF8, 0x3F}));
-  EXPECT_EQ(Written([&](cSerialFile* f) { SerialIntArray(SERIAL_WRITE, ai, nullptr, 2, f); }),
-            Bytes({1, 0, 0, 0, 0, 1, 0, 0}));
-  EXPECT_EQ(Written([&](cSerialFile* f) { SerialDoubleArray(SERIAL_WRITE, ad, nullptr, 1, f); }),
-            Bytes({0, 0, 0, 0, 0, 0, 0, 0xC0}));
-}
 
 TEST(SerialFieldBytes, TextStoresItsLengthWithTheNul) {
   std::string empty, abc = "abc", embedded("ab\0cd", 5);
@@ -89,20 +70,6 @@ TEST(SerialFieldBytes, VectorsStoreTheirCountFirst) {
             Bytes({2, 0, 0, 0, 1, 0, 0, 0, 2, 0, 0, 0, 'a', 0}));
 }
 
-TEST(SerialFieldBytes, RecordsNestTheirOwnStreams) {
-  cTestItem item;
-  item.m_strName = "n";
-  EXPECT_EQ(Written([&](cSerialFile* f) { SerialRecord(SERIAL_WRITE, item, nullptr, f); }),
-            Bytes({7, 0, 0, 0, 2, 0, 0, 0, 'n', 0, 0, 0, 0, 0}));
-
-  VECTOR_CLASS<cTestItem> items(1);
-  EXPECT_EQ(Written([&](cSerialFile* f) { SerialRecordVector(SERIAL_WRITE, items, nullptr, f); }),
-            Bytes({1, 0, 0, 0, 7, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0}));
-
-  cTestItem array[2];
-  EXPECT_EQ(Written([&](cSerialFile* f) { SerialRecordArray(SERIAL_WRITE, array, nullptr, 2, f); }).size(), 24u);
-}
-
 TEST(SerialFieldBytes, ReadingAVectorReplacesWhatItHeld) {
   VECTOR_CLASS<std::int32_t> ints{1, 2, 3};
   SerialFilePtr file = Reader(Bytes({0, 0, 0, 0}));
@@ -121,17 +88,10 @@ TEST(SerialFieldBytes, ReadingAVectorReplacesWhatItHeld) {
 
 TEST(SerialFieldWalks, ResetCopyCompareAndNormalize) {
   cFieldZoo a;
-  a.m_nInt = 1;
-  a.m_dDouble = 2.5;
-  a.m_aInt[2] = 3;
-  a.m_strText = "x\r\ny\rz";
-  a.m_vecVec = {{1, 2}};
-  a.m_aVec[1] = {4};
-  a.m_vecStr = {"p\r\nq"};
-  a.m_Item.m_vecNums = {6};
+  a.m_nInt = 1, a.m_dDouble = 2.5, a.m_aInt[2] = 3, a.m_strText = "x\r\ny\rz";
+  a.m_vecVec = {{1, 2}}, a.m_aVec[1] = {4}, a.m_vecStr = {"p\r\nq"}, a.m_Item.m_vecNums = {6};
   a.m_vecItem.resize(2);
-  a.m_vecItem[1].m_strName = "deep";
-  a.m_aItem[1].m_nValue = 8;
+  a.m_vecItem[1].m_strName = "deep", a.m_aItem[1].m_nValue = 8;
 
   // Copy is deep: changing the copy's nested element leaves the source alone.
   cFieldZoo b;
@@ -159,43 +119,26 @@ TEST(SerialFieldWalks, ResetCopyCompareAndNormalize) {
 
   // Normalising drops every carriage return, paired or alone, also in nested texts.
   a.Normalize();
-  EXPECT_EQ(a.m_strText, "x\nyz");
-  EXPECT_EQ(a.m_vecStr[0], "p\nq");
+  EXPECT_EQ(std::tie(a.m_strText, a.m_vecStr[0]), std::make_tuple("x\nyz", "p\nq"));
 
   // Reset gives zeros, not the constructor's defaults.
   a.Reset();
-  EXPECT_EQ(a.m_Item.m_nValue, 0);
-  EXPECT_TRUE(a.m_vecItem.empty());
-  EXPECT_EQ(a.m_aItem[1].m_nValue, 0);
-  EXPECT_TRUE(a.m_aVec[1].empty());
-  EXPECT_EQ(cTestItem().m_nValue, 7);
+  EXPECT_EQ(std::make_tuple(a.m_Item.m_nValue, a.m_aItem[1].m_nValue, cTestItem().m_nValue), std::make_tuple(0, 0, 7));
+  EXPECT_TRUE(a.m_vecItem.empty() && a.m_aVec[1].empty());
 }
 
 TEST(SerialFieldWalks, EveryFieldKindSurvivesAFileRoundTrip) {
   cFieldZoo a;
-  a.m_nInt = -5;
-  a.m_sShort = -300;
-  a.m_byByte = 200;
-  a.m_dDouble = 1e-300;
-  a.m_aInt[0] = 11;
-  a.m_aDouble[1] = 3.25;
+  a.m_nInt = -5, a.m_sShort = -300, a.m_byByte = 200, a.m_dDouble = 1e-300, a.m_aInt[0] = 11, a.m_aDouble[1] = 3.25;
   a.m_strText = "\x83\x5C\x94\x5C";  // two double-byte characters with trail byte 0x5C
-  a.m_vecInt = {1};
-  a.m_vecByte = {0, 255};
-  a.m_vecPair = {{-1, 2}, {3, -4}};
-  a.m_vecVec = {{}, {9, 9}};
-  a.m_aVec[0] = {7};
-  a.m_vecStr = {"a", "", "bc"};
-  a.m_Item.m_strName = "item";
+  a.m_vecInt = {1}, a.m_vecByte = {0, 255}, a.m_vecPair = {{-1, 2}, {3, -4}}, a.m_vecVec = {{}, {9, 9}};
+  a.m_aVec[0] = {7}, a.m_vecStr = {"a", "", "bc"}, a.m_Item.m_strName = "item";
   a.m_vecItem.resize(3);
-  a.m_vecItem[2].m_vecNums = {1, 2, 3};
-  a.m_aItem[0].m_strName = "z";
+  a.m_vecItem[2].m_vecNums = {1, 2, 3}, a.m_aItem[0].m_strName = "z";
 
   SerialFilePtr out = OpenSerialWriteBuffer();
   a.Save(out.get());
   cFieldZoo b;
   ASSERT_EQ(b.LoadStream(OpenSerialReadBuffer(out->Bytes())), 1);
   EXPECT_TRUE(Compare(a, b));
-  EXPECT_EQ(b.m_strText, a.m_strText);
-  EXPECT_EQ(b.m_vecPair[1].y, -4);
 }

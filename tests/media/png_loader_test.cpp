@@ -67,13 +67,6 @@ TEST_F(PngLoaderTest, InterlacedImagesAssembleEveryPass) {
   }
 }
 
-TEST_F(PngLoaderTest, OtherSheetDepthsKeepTheirWhitePlane) {
-  cSurface s = Load(PngFixture{2, 1, PNG_COLOR_TYPE_RGB, 8, {1, 2, 3, 4, 5, 6}}, 32);
-  EXPECT_EQ(s.m_nBits, 32);
-  EXPECT_EQ(PixelAt(s, 1, 0), (Bgr{255, 255, 255}));
-  EXPECT_TRUE(m_prompt.shown.empty());  // only the switchable box speaks of it
-}
-
 TEST_F(PngLoaderTest, MissingForeignTruncatedAndDamagedFiles) {
   std::filesystem::create_directories(Path("image"));
   PngFixture big{64, 64, PNG_COLOR_TYPE_RGBA, 8, {}};

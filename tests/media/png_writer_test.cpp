@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "media/media_fixtures.h"
 #include "media/png_writer.h"
 #include "support/test_env.h"
@@ -24,9 +26,7 @@ TEST_F(PngWriterTest, SavedSurfacesLoadBackUnchanged) {
     ASSERT_TRUE(SavePng(written, Path("out.png"), error)) << error;
     cSurface read;
     ASSERT_EQ(read.LoadPng("out.png", Sheet("out.png"), 1), 1);
-    ASSERT_EQ(read.m_nWidth, 5);
-    ASSERT_EQ(read.m_nHeight, 3);
-    EXPECT_EQ(read.m_bAlpha, bits == 32 ? 1 : 0);
+    ASSERT_EQ(std::make_tuple(read.m_nWidth, read.m_nHeight, read.m_bAlpha), std::make_tuple(5, 3, bits == 32 ? 1 : 0));
     for (int y = 0; y < 3; ++y)
       for (int x = 0; x < 5; ++x) {
         const unsigned char* w = written.Pixel(x, y);
@@ -40,6 +40,5 @@ TEST_F(PngWriterTest, AnEmptySurfaceIsRefusedAndNothingIsWritten) {
   cSurface empty;
   std::string error;
   EXPECT_FALSE(SavePng(empty, Path("none.png"), error));
-  EXPECT_FALSE(error.empty());
-  EXPECT_FALSE(std::filesystem::exists(Path("none.png")));
+  EXPECT_FALSE(error.empty() || std::filesystem::exists(Path("none.png")));
 }

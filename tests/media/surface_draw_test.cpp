@@ -33,19 +33,6 @@ std::vector<std::string> Rows(const cSurface& s, Bgr drawn = kRed) {
 
 }  // namespace
 
-TEST(SurfaceDrawTest, MaskedBlitAndsTheMaskThenOrsTheColour) {
-  cSurface src;
-  ASSERT_TRUE(src.Create(3, 1, 24, 1));
-  // Opaque red; transparent; a white mask over colour bits, which the OR pass still adds.
-  src.m_vecBits = {0, 0, 255, 0, 0, 0, 0x10, 0, 0};
-  src.m_vecMaskBits = {0, 0, 0, 255, 255, 255, 255, 255, 255};
-  cSurface dst = Blank(4, 1, 0x204060);
-  dst.Blit(1, 0, 3, 1, src, 0, 0, 0);
-  EXPECT_EQ(RowOf(dst, 0), (std::vector<Bgr>{{0x20, 0x40, 0x60}, kRed, {0x20, 0x40, 0x60}, {0x30, 0x40, 0x60}}));
-  dst.Blit(0, 0, 3, 1, src, 0, 0, 1);  // bNoMask: a plain copy
-  EXPECT_EQ(RowOf(dst, 0), (std::vector<Bgr>{kRed, kBlack, {0x10, 0, 0}, {0x30, 0x40, 0x60}}));
-}
-
 TEST(SurfaceDrawTest, BlitClipsToBothSurfaces) {
   const cSurface src = Numbered(4, 4);
   struct Case {
@@ -119,32 +106,6 @@ TEST(SurfaceDrawTest, LinesFramesGridsAndFillsLeaveTheEndPointOut) {
   const unsigned char bytes[] = {0x00, 0x00, 0xFF};  // the first byte is the high byte
   r.FillBytes(bytes);
   EXPECT_EQ(Rows(r), std::vector<std::string>(3, "#####"));
-}
-
-TEST(SurfaceDrawTest, PenStylesAndWidths) {
-  cSurface dot = Blank(14, 1, 0x00FF00);
-  ASSERT_EQ(dot.SetPen(kPenDot, 1, 0x0000FF), 1);
-  dot.Line(0, 0, 14, 0);
-  EXPECT_EQ(Rows(dot)[0], "###...###...##");
-  EXPECT_EQ(Rows(dot, {0, 255, 0})[0], "...###...###..");  // dotted pens make the background transparent
-
-  cSurface dash = Blank(26, 1);  // opaque background: the gaps are painted white
-  dash.SetPen(kPenDash, 1, 0x0000FF);
-  dash.Line(0, 0, 26, 0);
-  EXPECT_EQ(Rows(dash)[0], std::string(18, '#') + "......##");
-  EXPECT_EQ(Rows(dash, kWhite)[0], std::string(18, '.') + "######..");
-
-  cSurface thick = Blank(8, 7);
-  thick.SetPen(kPenDot, 3, 0x0000FF);  // wide pens are solid
-  thick.Line(2, 5, 6, 5);
-  EXPECT_EQ(Rows(thick), (std::vector<std::string>{"........", "........", "........", "........", ".######.",
-                                                   ".######.", ".######."}));
-  EXPECT_EQ(thick.SetPen(9, 1, 0), 0);
-  thick.SetPen(kPenNull, 1, 0);
-  thick.Line(0, 0, 8, 0);
-  EXPECT_EQ(Rows(thick, kBlack)[0], "########");
-  thick.ReleasePen();
-  EXPECT_EQ(thick.m_pen.nWidth, 3);
 }
 
 TEST(SurfaceDrawTest, StretchBlitScalesMirrorsAndClips) {

@@ -49,16 +49,3 @@ TEST(SurfaceTextTest, LinesAreTwentyPixelsApartInTheTextColour) {
   EXPECT_EQ(PixelAt(opaque, 0, 0), (Bgr{255, 255, 255}));
   EXPECT_EQ(PixelAt(opaque, 60, 30), (Bgr{0, 0, 0}));
 }
-
-TEST(SurfaceTextTest, PrintfIsWhiteOnTransparentAndTheFontSetsTheSize) {
-  cSurface s = Page(0), big = Page(0);
-  s.Printf(2, 2, "%d%s", 42, "x");
-  Box small = Ink(s, {0, 0, 0}, {255, 255, 255});
-  EXPECT_GT(small.count, 10);
-  EXPECT_EQ(s.m_nBkMode, kBkTransparent);
-  HSURFFONT font = big.SetFont(Cp932FromLiteral("ＭＳ ゴシック"), 0, -40);
-  ASSERT_NE(font, nullptr);
-  big.Printf(2, 2, "%d%s", 42, "x");
-  Box large = Ink(big, {0, 0, 0}, {255, 255, 255});
-  EXPECT_GT(large.bottom - large.top, 2 * (small.bottom - small.top));
-}

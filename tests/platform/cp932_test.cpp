@@ -2,22 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 TEST(Cp932, LeadBytesAndCharacterCounts) {
-  EXPECT_FALSE(IsLeadByte(0x80));
-  EXPECT_TRUE(IsLeadByte(0x81));
-  EXPECT_TRUE(IsLeadByte(0x9F));
-  EXPECT_FALSE(IsLeadByte(0xA0));  // half-width katakana are single bytes
-  EXPECT_FALSE(IsLeadByte(0xDF));
-  EXPECT_TRUE(IsLeadByte(0xE0));
-  EXPECT_TRUE(IsLeadByte(0xFC));
-  EXPECT_FALSE(IsLeadByte(0xFD));
+  // Half-width katakana, 0xA0 to 0xDF, are single bytes.
+  for (int byte : {0x81, 0x9F, 0xE0, 0xFC}) EXPECT_TRUE(IsLeadByte(byte)) << byte;
+  for (int byte : {0x80, 0xA0, 0xDF, 0xFD}) EXPECT_FALSE(IsLeadByte(byte)) << byte;
 
   const std::string text = "a\x83\x5C\xB1z";  // a, ソ, ｱ, z
   EXPECT_EQ(Cp932CharCount(text), 4u);
   EXPECT_EQ(Cp932CharCount("\x83"), 1u);  // a dangling lead byte is one character
-  EXPECT_EQ(Cp932FitBytes(text, 2), 1u);  // never half of ソ
-  EXPECT_EQ(Cp932FitBytes(text, 3), 3u);
-  EXPECT_EQ(Cp932FitBytes(text, 99), text.size());
+  EXPECT_EQ(std::make_tuple(Cp932FitBytes(text, 2), Cp932FitBytes(text, 3), Cp932FitBytes(text, 99)),
+            std::make_tuple(1u, 3u, text.size()));  // never half of ソ
 }
 
 TEST(Cp932, ConvertsWithTheWindowsMappingAndRefusesWhatHasNoForm) {

@@ -1,5 +1,7 @@
 #include "platform/stored_path.h"
 
+#include <tuple>
+
 #include "support/test_env.h"
 
 namespace fs = std::filesystem;
@@ -7,13 +9,11 @@ namespace fs = std::filesystem;
 TEST(StoredPath, FileNameAndDirectoryNeverSplitADoubleByteCharacter) {
   // 0x83 0x5C is ソ: its trail byte is the separator's byte.
   const std::string path = "image\\\x83\x5C\\\x83\x5C.png";
-  EXPECT_EQ(FileNameOf(path), "\x83\x5C.png");
-  EXPECT_EQ(DirOf(path), "image\\\x83\x5C");
-  EXPECT_EQ(FileNameOf("\x83\x5C"), "\x83\x5C");
-  EXPECT_EQ(DirOf("\x83\x5C"), "");
+  for (auto [stored, dir, name] : {std::tuple{path, std::string("image\\\x83\x5C"), "\x83\x5C.png"},
+                                   {"\x83\x5C", "", "\x83\x5C"}, {"dir\\", "dir", ""}}) {
+    EXPECT_EQ(std::make_tuple(DirOf(stored), FileNameOf(stored)), std::make_tuple(dir, name)) << stored;
+  }
   EXPECT_EQ(FileNameOf("a/b"), "b");
-  EXPECT_EQ(DirOf("dir\\"), "dir");
-  EXPECT_EQ(FileNameOf("dir\\"), "");
 }
 
 using StoredPathTest = ProjectDirTest;

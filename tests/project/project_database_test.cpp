@@ -3,6 +3,8 @@
 
 #include "project/project_files.h"
 
+#include <tuple>
+
 #include "platform/cp932.h"
 #include "platform/stored_path.h"
 #include "project/project_globals.h"
@@ -50,16 +52,14 @@ class ProjectDatabaseTest : public ProjectDirTest {
 TEST_F(ProjectDatabaseTest, SavedFilesLoadBackAndNumbersComeFromPositions) {
   for (const auto& [stored, native] : StoppingFiles()) EXPECT_TRUE(fs::exists(native)) << stored;
   g_vecSkillList.resize(2);
-  g_vecSkillList[1].m_nID = 9;
-  g_vecSkillList[1].m_vecSkill[1].m_nID = 9;
+  g_vecSkillList[1].m_nID = g_vecSkillList[1].m_vecSkill[1].m_nID = 9;
   ASSERT_EQ(SaveAllDatabaseFiles(), 1);
   g_vecSkillList.clear();
 
   ASSERT_EQ(LoadProjectRecords(), 1);
   EXPECT_TRUE(m_prompt.shown.empty());
   ASSERT_EQ(g_vecSkillList.size(), 2u);
-  EXPECT_EQ(g_vecSkillList[1].m_nID, 1);
-  EXPECT_EQ(g_vecSkillList[1].m_vecSkill[1].m_nID, 1);
+  EXPECT_EQ(std::tie(g_vecSkillList[1].m_nID, g_vecSkillList[1].m_vecSkill[1].m_nID), std::make_tuple(1, 1));
 }
 
 TEST_F(ProjectDatabaseTest, EachMissingOrTooNewFileStopsTheLoadWithItsMessage) {
@@ -68,11 +68,8 @@ TEST_F(ProjectDatabaseTest, EachMissingOrTooNewFileStopsTheLoadWithItsMessage) {
   for (const auto& [stored, native] : files) {
     const std::vector<unsigned char> bytes = FileBytes(native);
     for (bool tooNew : {false, true}) {
-      if (tooNew) {
-        SetVersion(native.string(), 291);
-      } else {
-        fs::remove(native);
-      }
+      if (tooNew) SetVersion(native.string(), 291);
+      else fs::remove(native);
       m_prompt.shown.clear();
       EXPECT_EQ(LoadProjectRecords(), 0) << stored;
       ASSERT_EQ(m_prompt.shown.size(), 1u) << stored;

@@ -3,6 +3,7 @@
 #include "project/project_load.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "app/diagnostics.h"
 #include "platform/cp932.h"
@@ -40,22 +41,18 @@ TEST_F(ProjectLoadTest, FailureMessagesNameTheDefaultFolderOrTheVersion) {
       "data\\GValInfo.dat の読み込みに失敗しました！\nこのファイルが存在しない場合は「default」フォルダから「data」フォルダへ同名のファイルをコピーして下さい。");
   const std::string newer = CP932_TEXT(
       "data\\database\\System.dat の読み込みに失敗しました！\n実行ファイル(.exe)より上位のバージョンのファイルは使用できません。");
-  EXPECT_EQ(m_prompt.shown[0].text, missing);
-  EXPECT_EQ(m_prompt.shown[0].caption, CP932_TEXT("エラー"));
-  EXPECT_EQ(m_prompt.shown[1].text, newer);
-  EXPECT_EQ(m_prompt.shown[2].text, CP932_TEXT("プロジェクトのロードに失敗しました！"));
-  EXPECT_EQ(m_prompt.shown[3].text,
-            CP932_TEXT("プロジェクトのロードに失敗しました！フォルダやファイルの位置や名称が変更された可能性があります！"));
-  std::string expectedLog = missing + "\n" + newer + "\n";
+  EXPECT_EQ(std::tie(m_prompt.shown[0].text, m_prompt.shown[0].caption, m_prompt.shown[1].text, m_prompt.shown[2].text,
+                     m_prompt.shown[3].text),
+            std::make_tuple(missing, CP932_TEXT("エラー"), newer, CP932_TEXT("プロジェクトのロードに失敗しました！"),
+                            CP932_TEXT("プロジェクトのロードに失敗しました！フォルダやファイルの位置や名称が変更された可能性があります！")));
+  // The log holds the file messages, each line ended the Windows way.
   std::string crlf;
-  for (char c : expectedLog) crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
+  for (char c : missing + "\n" + newer + "\n") crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
   EXPECT_EQ(FileText("Report_Editor.txt"), crlf);
 }
 
 TEST_F(ProjectLoadTest, TestPlaySettingsOfAnOldProjectComeFromTheEditorConfiguration) {
-  g_EditConfig.m_bAutoFindOld = 0;
-  g_EditConfig.m_strGamePathOld = "Game.bin";
-  g_TestPlay.m_nRandomSkill = 2;
+  g_EditConfig.m_bAutoFindOld = 0, g_EditConfig.m_strGamePathOld = "Game.bin", g_TestPlay.m_nRandomSkill = 2;
 
   // The file is missing and the last file opened is older than the test play file.
   g_nFileVersion = 220;
@@ -68,25 +65,20 @@ TEST_F(ProjectLoadTest, TestPlaySettingsOfAnOldProjectComeFromTheEditorConfigura
   int loaded = step.load(step.path);
   EXPECT_EQ(loaded, 0);
   step.after(loaded);
-  EXPECT_EQ(g_TestPlay.m_bAutoFind, 0);
-  EXPECT_EQ(g_TestPlay.m_strGamePath, "Game.bin");
-  EXPECT_EQ(g_TestPlay.m_nRandomSkill, 0);
-  EXPECT_EQ(g_TestPlay.m_nTraining, 2);
+  EXPECT_EQ(std::tie(g_TestPlay.m_bAutoFind, g_TestPlay.m_strGamePath, g_TestPlay.m_nRandomSkill, g_TestPlay.m_nTraining),
+            std::make_tuple(0, "Game.bin", 0, 2));
 
   // In a newer project a missing file simply leaves the settings as they were.
   g_TestPlay.Init();
   g_nFileVersion = 221;
   step.after(step.load(step.path));
-  EXPECT_EQ(g_TestPlay.m_bAutoFind, 1);
-  EXPECT_TRUE(g_TestPlay.m_strGamePath.empty());
+  EXPECT_EQ(std::tie(g_TestPlay.m_bAutoFind, g_TestPlay.m_strGamePath), std::make_tuple(1, ""));
   EXPECT_TRUE(m_prompt.shown.empty());
 }
 
 TEST_F(ProjectLoadTest, TestPlayFileOfEachAge) {
   cTestPlay stored;
-  stored.m_bAutoFind = 0;
-  stored.m_strGamePath = "g";
-  stored.m_nSkillLevel = 3;
+  stored.m_bAutoFind = 0, stored.m_strGamePath = "g", stored.m_nSkillLevel = 3;
   ASSERT_EQ(stored.SaveFile("e_data\\Testplay.dat"), 1);
   EXPECT_EQ(FileBytes("e_data/Testplay.dat"),
             Bytes({0x22, 1, 0, 0, 0, 0, 0, 0, 2, 0, 0, 0, 'g', 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 3, 0, 0, 0, 2, 0, 0, 0}));
@@ -95,9 +87,6 @@ TEST_F(ProjectLoadTest, TestPlayFileOfEachAge) {
   WriteBytes("e_data/Testplay.dat", Bytes({200, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 2, 0, 0, 0, 0, 0, 0, 0}));
   cTestPlay old;
   ASSERT_EQ(old.LoadFile("e_data\\Testplay.dat"), 1);
-  EXPECT_EQ(old.m_bAutoFind, 1);
-  EXPECT_EQ(old.m_bNoRandomGrowth, 1);
-  EXPECT_EQ(old.m_nRandomSkill, 1);
-  EXPECT_EQ(old.m_nSkillLevel, 2);
-  EXPECT_EQ(old.m_nTraining, 0);
+  EXPECT_EQ(std::tie(old.m_bAutoFind, old.m_bNoRandomGrowth, old.m_nRandomSkill, old.m_nSkillLevel, old.m_nTraining),
+            std::make_tuple(1, 1, 1, 2, 0));
 }

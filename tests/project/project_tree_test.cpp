@@ -2,6 +2,8 @@
 
 #include "project/project_tree.h"
 
+#include <tuple>
+
 #include "platform/cp932.h"
 #include "support/test_env.h"
 
@@ -9,31 +11,16 @@ namespace fs = std::filesystem;
 
 using ProjectTreeTest = ProjectDirTest;
 
-TEST_F(ProjectTreeTest, EveryStartCreatesTheDirectories) {
-  CreateProjectDirectories();
-  for (const char* dir : {"e_data", "e_image", "user_data", "data/database", "data/stg", "data/random_name", "csv",
-                          "image/back", "image/picture", "wave", "bgm"}) {
-    EXPECT_TRUE(fs::is_directory(dir)) << dir;
+// Without data or default the program cannot go on; data that exists is not looked at.
+TEST_F(ProjectTreeTest, NoQuestionWithoutDefaultOrWithData) {
+  for (bool data : {false, true}) {
+    if (data) fs::create_directory("data"), fs::create_directories("default/database");
+    int bFresh = -1;
+    EXPECT_EQ(CreateDefaultData(nullptr, bFresh), data ? 1 : 0);
+    EXPECT_EQ(bFresh, 0);
+    EXPECT_TRUE(m_prompt.shown.empty());
   }
-  EXPECT_FALSE(fs::exists("default"));
-  EXPECT_FALSE(fs::exists("data/plt"));
-}
-
-TEST_F(ProjectTreeTest, DataThatExistsIsNotLookedAt) {
-  fs::create_directory("data");
-  fs::create_directories("default/database");
-  int bFresh = -1;
-  EXPECT_EQ(CreateDefaultData(nullptr, bFresh), 1);
-  EXPECT_EQ(bFresh, 0);
-  EXPECT_TRUE(m_prompt.shown.empty());
   EXPECT_FALSE(fs::exists("data/database"));
-}
-
-TEST_F(ProjectTreeTest, WithoutDataOrDefaultTheProgramCannotGoOn) {
-  int bFresh = -1;
-  EXPECT_EQ(CreateDefaultData(nullptr, bFresh), 0);
-  EXPECT_EQ(bFresh, 0);
-  EXPECT_TRUE(m_prompt.shown.empty());
 }
 
 TEST_F(ProjectTreeTest, TheDefaultTreeIsCopiedWhenTheUserAgrees) {
@@ -46,9 +33,9 @@ TEST_F(ProjectTreeTest, TheDefaultTreeIsCopiedWhenTheUserAgrees) {
   EXPECT_EQ(CreateDefaultData(nullptr, bFresh), 0);
   EXPECT_FALSE(fs::exists("data"));
   ASSERT_EQ(m_prompt.shown.size(), 1u);
-  EXPECT_EQ(m_prompt.shown[0].text, CP932_TEXT("データが存在しません！デフォルトデータを作成しますか？\n"));
-  EXPECT_EQ(m_prompt.shown[0].caption, CP932_TEXT("デフォルトデータ作成の確認"));
-  EXPECT_EQ(m_prompt.shown[0].style, MB_YESNO);
+  EXPECT_EQ(std::tie(m_prompt.shown[0].text, m_prompt.shown[0].caption, m_prompt.shown[0].style),
+            std::make_tuple(CP932_TEXT("データが存在しません！デフォルトデータを作成しますか？\n"),
+                            CP932_TEXT("デフォルトデータ作成の確認"), unsigned{MB_YESNO}));
 
   m_prompt.answers = {IDYES};
   EXPECT_EQ(CreateDefaultData(nullptr, bFresh), 1);

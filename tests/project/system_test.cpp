@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include <climits>
 #include <span>
 #include <cmath>
@@ -10,58 +12,33 @@
 #include <string>
 #include <vector>
 
+#include "database/db_test_support.h"
 #include "platform/cp932.h"
 #include "project/project_globals.h"
 #include "project/system.h"
 #include "project/system_defaults.h"
-#include "project/system_labels.h"
 
 namespace {
 
 std::string J(const char* utf8) { return Cp932FromLiteral(utf8); }
 
-// Little-endian stream builder for files of any version.
-struct cStream {
-  std::vector<unsigned char> bytes;
-  cStream() = default;
-  explicit cStream(std::uint32_t version) { Int(static_cast<std::int32_t>(version)); }
-  cStream& Le(std::uint64_t v, int size) {
-    for (int i = 0; i < size; ++i) bytes.push_back(static_cast<unsigned char>(v >> (8 * i)));
-    return *this;
-  }
-  cStream& Int(std::int32_t v) { return Le(static_cast<std::uint32_t>(v), 4); }
-  cStream& Short(std::int16_t v) { return Le(static_cast<std::uint16_t>(v), 2); }
-  cStream& Byte(std::uint8_t v) { return Le(v, 1); }
-  cStream& Double(double v) {
-    std::uint64_t bits;
-    std::memcpy(&bits, &v, sizeof bits);
-    return Le(bits, 8);
-  }
-  cStream& Text(const std::string& s) {
-    Int(static_cast<std::int32_t>(s.size() + 1));
-    if (!s.empty()) {
-      bytes.insert(bytes.end(), s.begin(), s.end());
-      bytes.push_back(0);
-    }
-    return *this;
-  }
-  cStream& Texts(const std::vector<std::string>& texts) {
-    Int(static_cast<std::int32_t>(texts.size()));
-    for (const std::string& text : texts) Text(text);
-    return *this;
-  }
-  cStream& Ints(const std::vector<int>& values) {
-    Int(static_cast<std::int32_t>(values.size()));
-    for (int v : values) Int(v);
-    return *this;
-  }
-  // Menu rows, the first one switched off so that reading the flag shows.
-  cStream& Menu(const std::vector<std::string>& names) {
-    Int(static_cast<std::int32_t>(names.size()));
-    for (std::size_t i = 0; i < names.size(); ++i) Text(names[i]).Int(i == 0 ? 0 : 1);
-    return *this;
-  }
-};
+// Lists as the settings file stores them: a count, then the rows.
+cDbStream& Texts(cDbStream& s, const std::vector<std::string>& texts) {
+  s.Int(static_cast<std::int32_t>(texts.size()));
+  for (const std::string& text : texts) s.Text(text);
+  return s;
+}
+cDbStream& IntList(cDbStream& s, const std::vector<int>& values) {
+  s.Int(static_cast<std::int32_t>(values.size()));
+  for (int v : values) s.Int(v);
+  return s;
+}
+// Menu rows, the first one switched off so that reading the flag shows.
+cDbStream& Menu(cDbStream& s, const std::vector<std::string>& names) {
+  s.Int(static_cast<std::int32_t>(names.size()));
+  for (std::size_t i = 0; i < names.size(); ++i) s.Text(names[i]).Int(i == 0 ? 0 : 1);
+  return s;
+}
 
 std::vector<unsigned char> Saved(cSystem& system) {
   SerialFilePtr out = OpenSerialWriteBuffer();
@@ -110,7 +87,7 @@ constexpr std::uint32_t kIniRowBelow[kSystemIniCount] = {93, 93, 93, 93, 93, 123
 // A settings file of `version`: every field its version holds, each with a value of
 // its own, and every list in the rows of that version.
 std::vector<unsigned char> SystemFileAt(std::uint32_t v) {
-  cStream s(v);
+  cDbStream s = cDbStream::File(v);
   s.Int(11).Int(12).Int(13).Double(0.5).Int(0).Int(14).Int(15).Double(0.25).Int(0).Int(0).Int(16);
   if (v >= 70) s.Int(-3).Int(4).Int(5);
   if (v >= 122) s.Int(6);
@@ -137,8 +114,8 @@ std::vector<unsigned char> SystemFileAt(std::uint32_t v) {
   s.Byte(0x10).Byte(0x20).Byte(0x30);
   if (v >= 85) s.Short(180).Short(-100).Short(50);
   s.Text(J("試験"));
-  s.Texts(SoundsAt(v));
-  s.Ints(v < 92 ? std::vector<int>{1, 2, 3} : std::vector<int>{1, 2, 3, 4, 5});
+  Texts(s, SoundsAt(v));
+  IntList(s, v < 92 ? std::vector<int>{1, 2, 3} : std::vector<int>{1, 2, 3, 4, 5});
   if (v >= 23) {
     std::vector<std::uint8_t> loops = {0, 1, 0};
     if (v >= 92) loops = {0, 1, 0, 1, 0};
@@ -147,10 +124,10 @@ std::vector<unsigned char> SystemFileAt(std::uint32_t v) {
   }
   if (v >= 10) s.Int(0);
   if (v >= 90 && v <= 123) s.Int(77);
-  if (v >= 125) s.Ints({1, 0, 1, 0});
+  if (v >= 125) IntList(s, {1, 0, 1, 0});
   if (v >= 119) s.Int(5);
   if (v >= 91) s.Int(7).Int(1);
-  s.Texts(TermsAt(v));
+  Texts(s, TermsAt(v));
   if (v >= 8) {
     VECTOR_CLASS<cParamInfo> params = DefaultSystemParams();
     int rows = v < 105 ? kSystemStatusCount : kSystemParamCount;
@@ -170,7 +147,7 @@ std::vector<unsigned char> SystemFileAt(std::uint32_t v) {
     if (menus[i].menu == &cSystem::m_vecPartyMenu && v < 212) names.erase(names.begin() + 11);
     if (menus[i].menu == &cSystem::m_vecPartyMenu && v < 63) names[10] = J("旧設定");
     if (menus[i].menu == &cSystem::m_vecTestMenu && v < 72) names.pop_back();
-    s.Menu(names);
+    Menu(s, names);
   }
   s.Int(2).Int(0).Text("").Int(0).Text(J("火"));
   s.Int(1).Int(3).Text(J("剣"));
@@ -190,19 +167,12 @@ std::vector<unsigned char> SystemFileAt(std::uint32_t v) {
 class SystemTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    m_savedBack = g_Database.m_vecBack;
-    m_savedBgm = g_Database.m_vecBgm;
     g_Database.m_vecBack.resize(5);
     g_Database.m_vecBgm.resize(10);
   }
-  void TearDown() override {
-    g_Database.m_vecBack = m_savedBack;
-    g_Database.m_vecBgm = m_savedBgm;
-  }
 
  private:
-  VECTOR_CLASS<cEdBack> m_savedBack;
-  VECTOR_CLASS<cEdBgm> m_savedBgm;
+  cGlobalsGuard<VECTOR_CLASS<cEdBack>, VECTOR_CLASS<cEdBgm>> m_guard{g_Database.m_vecBack, g_Database.m_vecBgm};
 };
 
 template <class T>
@@ -230,33 +200,24 @@ TEST_F(SystemTest, ANewRecordWrittenAt290) {
   constexpr std::size_t kIni = 4 + 7 * (4 + 5 + 4 + 4) + 59;       // 59 bytes of keys
   ASSERT_EQ(bytes.size(), kHead + kPresentation + kTerms + kParams + 4 + kMenus + kTail + kIni);
 
-  EXPECT_EQ(At<std::uint32_t>(bytes, 0), 290u);
-  EXPECT_EQ(At<std::int32_t>(bytes, 24), 1);      // m_bGrowCapped
-  EXPECT_EQ(At<std::int32_t>(bytes, 156), 100);   // m_anEnemyRate[0]
-  EXPECT_EQ(At<std::int32_t>(bytes, 292), 27);    // m_nBattleTime
-  EXPECT_EQ(At<std::int32_t>(bytes, 296), 600);   // m_anInitAction
-  EXPECT_EQ(At<std::int32_t>(bytes, 300), 500);
-  EXPECT_EQ(At<std::int32_t>(bytes, 344), 99);    // m_anMaxActions[1]
-  EXPECT_DOUBLE_EQ(At<double>(bytes, 348), 3.3);  // m_adActions by the timing formula
-  EXPECT_DOUBLE_EQ(At<double>(bytes, 356), 2.7);
-  EXPECT_EQ(At<std::int32_t>(bytes, 364), 1);     // m_bShowOrder
-  EXPECT_EQ(At<double>(bytes, 368), 4.0);         // m_dHitSkill
-  EXPECT_EQ(At<std::int32_t>(bytes, 404), 110);   // m_nDamageRateMax
-  EXPECT_EQ(At<std::int32_t>(bytes, 420), 999);   // m_nHpLimit from the HP row
-  EXPECT_EQ(At<std::int32_t>(bytes, 436), 10);    // m_anEnemyUp[0]
-  EXPECT_EQ(At<std::int32_t>(bytes, 485), 1);     // empty game name
-  EXPECT_EQ(At<std::int32_t>(bytes, 489), 18);    // sound rows
-  EXPECT_EQ(At<std::int32_t>(bytes, 634), 55);    // term rows
+  // Version, m_bGrowCapped, m_anEnemyRate[0], m_nBattleTime, m_anInitAction, m_anMaxActions[1],
+  // m_bShowOrder, m_nDamageRateMax, m_nHpLimit from the HP row, m_anEnemyUp[0], the empty
+  // game name, the sound rows and the term rows.
+  for (auto [offset, value] : {std::pair{0, 290}, {24, 1}, {156, 100}, {292, 27}, {296, 600}, {300, 500}, {344, 99},
+                               {364, 1}, {404, 110}, {420, 999}, {436, 10}, {485, 1}, {489, 18}, {634, 55}})
+    EXPECT_EQ(At<std::int32_t>(bytes, offset), value) << offset;
+  // m_adActions by the timing formula, and m_dHitSkill.
+  for (auto [offset, value] : {std::pair{348, 3.3}, {356, 2.7}, {368, 4.0}}) EXPECT_DOUBLE_EQ(At<double>(bytes, offset), value);
 
   // Term row 13 is the unit of a stock, behind the count and 13 rows of 225 bytes.
-  std::vector<unsigned char> unit = cStream().Text(J("コ")).bytes;
+  std::vector<unsigned char> unit = cDbStream().Text(J("コ")).bytes;
   EXPECT_TRUE(std::equal(unit.begin(), unit.end(), bytes.begin() + 634 + 229));
 
   // The stream ends with the party background row and the seven "System.ini" rows.
   const std::pair<const char*, int> kIniRows[] = {{"WindowMode", 2}, {"Color", 0},   {"VSync", 2},
                                                   {"FrameRate", 60}, {"ShowFps", 2}, {"English", 0},
                                                   {"Midi_DirectMusic", 1}};
-  cStream tail;
+  cDbStream tail;
   tail.Int(1).Int(7);
   for (const auto& [key, value] : kIniRows) tail.Int(0).Text(key).Int(value).Text("");
   EXPECT_TRUE(std::equal(tail.bytes.rbegin(), tail.bytes.rend(), bytes.rbegin()));
@@ -317,10 +278,8 @@ TEST_F(SystemTest, EveryOlderVersionLoadsIntoTheCurrentRows) {
     for (const auto& gate : kGated) EXPECT_DOUBLE_EQ(gate.get(system), v >= gate.since ? gate.inFile : gate.before);
     // Fields of every version, on both sides of the gates.
     EXPECT_EQ(system.m_nScoutVal, 16);
-    EXPECT_EQ(system.m_adRate[8], 9.5);
-    EXPECT_EQ(system.m_nSkillSellRate, 33);
-    EXPECT_EQ(system.m_nSpeedBase, 12);
-    EXPECT_EQ(system.m_anEnemyUp[8], 28);
+    EXPECT_EQ(std::tie(system.m_adRate[8], system.m_nSkillSellRate, system.m_nSpeedBase, system.m_anEnemyUp[8]),
+              std::make_tuple(9.5, 33, 12, 28));
     EXPECT_EQ(KeyColorOf(system), 0x302010u);
     EXPECT_EQ(system.m_strGameName, J("試験"));
 
@@ -352,8 +311,7 @@ TEST_F(SystemTest, EveryOlderVersionLoadsIntoTheCurrentRows) {
     // Menus: "ヘルプ" opened off, "コンフィグ" renamed, "ゲーム終了" added to the test menu.
     const VECTOR_CLASS<cCmd>& party = system.m_vecPartyMenu;
     ASSERT_EQ(party.size(), 13u);
-    EXPECT_EQ(party[10].m_strName, J("コンフィグ"));
-    EXPECT_EQ(party[11].m_strName, J("ヘルプ"));
+    EXPECT_EQ(std::tie(party[10].m_strName, party[11].m_strName), std::make_tuple(J("コンフィグ"), J("ヘルプ")));
     EXPECT_EQ(party[11].m_bEnabled, v >= 212 ? 1 : 0);
     EXPECT_EQ(party[12].m_strName, J("ゲーム終了"));
     ASSERT_EQ(system.m_vecTestMenu.size(), 5u);
@@ -383,11 +341,9 @@ TEST_F(SystemTest, ClampKeepsTheDerivedValuesAndReferences) {
   cSystem system;
   // Simple turns: the base actions as they stand.
   system.m_nTurnMode = 1;
-  system.m_anBaseActions[0] = 2;
-  system.m_anBaseActions[1] = 3;
+  system.m_anBaseActions[0] = 2, system.m_anBaseActions[1] = 3;
   system.Clamp();
-  EXPECT_EQ(system.m_adActions[0], 2.0);
-  EXPECT_EQ(system.m_adActions[1], 3.0);
+  EXPECT_EQ(std::tie(system.m_adActions[0], system.m_adActions[1]), std::make_tuple(2.0, 3.0));
 
   // Timed turns with a speed rate of 0 on either side or both: no division by zero.
   system.m_nTurnMode = 0;
@@ -400,17 +356,13 @@ TEST_F(SystemTest, ClampKeepsTheDerivedValuesAndReferences) {
       {0, 100, 1000, 1.0, 5.7}, // the attacker acts at once: 26 units of 200 for the defender
   };
   for (const auto& c : kDegenerate) {
-    system.m_anSpeedRate[0] = c.speed0;
-    system.m_anSpeedRate[1] = c.speed1;
-    system.m_anInitAction[0] = c.init0;
+    system.m_anSpeedRate[0] = c.speed0, system.m_anSpeedRate[1] = c.speed1, system.m_anInitAction[0] = c.init0;
     system.Clamp();
     EXPECT_DOUBLE_EQ(system.m_adActions[0], c.actions0) << c.speed0 << " " << c.speed1 << " " << c.init0;
     EXPECT_DOUBLE_EQ(system.m_adActions[1], c.actions1) << c.speed0 << " " << c.speed1 << " " << c.init0;
   }
   // Without the wait the defender gains from the start.
-  system.m_bWaitAttacker = 0;
-  system.m_anSpeedRate[0] = system.m_anSpeedRate[1] = 100;
-  system.m_anInitAction[0] = 600;
+  system.m_bWaitAttacker = 0, system.m_anSpeedRate[0] = system.m_anSpeedRate[1] = 100, system.m_anInitAction[0] = 600;
   system.Clamp();
   EXPECT_DOUBLE_EQ(system.m_adActions[1], 3.2);
 
@@ -418,20 +370,15 @@ TEST_F(SystemTest, ClampKeepsTheDerivedValuesAndReferences) {
   system.m_vecParam[kParamHp].m_nMax = 9999;
   system.m_vecParam[kParamMove].m_nMax = 10;
   system.Clamp();
-  EXPECT_EQ(system.m_vecParam[kParamHp].m_nDigits, 4);
-  EXPECT_EQ(system.m_vecParam[kParamMove].m_nDigits, 2);
-  EXPECT_EQ(system.m_nHpLimit, 9999);
-  EXPECT_EQ(DecimalDigits(0), 1);
-  EXPECT_EQ(DecimalDigits(9), 1);
-  EXPECT_EQ(DecimalDigits(INT_MAX), 10);
-  EXPECT_EQ(DecimalDigits(-999), 3);
+  EXPECT_EQ(std::tie(system.m_vecParam[kParamHp].m_nDigits, system.m_vecParam[kParamMove].m_nDigits, system.m_nHpLimit),
+            std::make_tuple(4, 2, 9999));
+  for (auto [value, digits] : {std::pair{0, 1}, {9, 1}, {INT_MAX, 10}, {-999, 3}}) EXPECT_EQ(DecimalDigits(value), digits);
 
   // References behind the background and music lists (5 and 10 rows).
   system.m_nPartyBack = 4;
   system.m_vecBgm = {9, 10, 0, 11, 3};
   system.Clamp();
-  EXPECT_EQ(system.m_nPartyBack, 4);
-  EXPECT_EQ(system.m_vecBgm, (VECTOR_CLASS<std::int32_t>{9, 0, 0, 0, 3}));
+  EXPECT_EQ(std::tie(system.m_nPartyBack, system.m_vecBgm), std::make_tuple(4, VECTOR_CLASS<std::int32_t>{9, 0, 0, 0, 3}));
   system.m_nPartyBack = 5;
   system.Clamp();
   EXPECT_EQ(system.m_nPartyBack, 1);
@@ -449,14 +396,4 @@ TEST_F(SystemTest, ClampKeepsTheDerivedValuesAndReferences) {
   Saved(saved);
   EXPECT_DOUBLE_EQ(saved.m_adActions[0], 1.6);
   EXPECT_EQ(saved.m_vecBgm[0], 0);
-}
-
-TEST(SystemLabels, TablesEndInAnEmptyEntry) {
-  EXPECT_STREQ(kSystemFontFaces[kRecommendedFont], "ＭＳ Ｐゴシック");
-  EXPECT_STREQ(kSystemFontFaces[kSystemFontTableSize - 1], "");
-  for (int row = 0; row + 1 < kSystemFontTableSize; ++row) EXPECT_STRNE(kSystemFontFaces[row], "") << row;
-  EXPECT_STREQ(kSystemSoundLabels[kSoundMessage], "メッセージ進行");
-  EXPECT_STREQ(kSystemSoundLabels[kSystemSoundCount], "");
-  EXPECT_STREQ(kSystemIniLabels[kSystemIniCount - 1], "DirectMusic");
-  EXPECT_STREQ(kSystemMenuLabels[16], "");
 }

@@ -84,31 +84,6 @@ TEST_F(MusicRenderTest, TempoChangesMoveTheOnsetsAfterThem) {
   EXPECT_EQ(play.State(), cSmfPlay::kStopped);
 }
 
-TEST_F(MusicRenderTest, ALoopedSongStartsAgainOnTime) {
-  NeedSynth();
-  WriteBytes("loop.mid", Concat({SmfHeader(0, 1, 480), TimedTrack({{0, Tempo(600000)}, {0, NoteOn(0, 60)}}, 400)}));
-  cSmfPlay play("loop.mid");
-  const std::int64_t start = m_synth->NextBlock();  // where a song's clock starts
-  play.Restart(1);
-  PullMixer(kSoundRate * 5 / 4, 700);
-  ExpectOnsets(NoteOns(start), {0, 0.5, 1.0});
-}
-
-TEST_F(MusicRenderTest, PauseAndStopSilenceTheChannels) {
-  NeedSynth();
-  WriteBytes("held.mid", Concat({SmfHeader(0, 1, 480), TimedTrack({{0, Bytes({0xC0, 19})}, {0, NoteOn(0, 60, 127)}}, 9600)}));
-  cSmfPlay play("held.mid");
-  play.Restart(0);
-  const float playing = Peak(PullMixer(kSoundRate / 2), kSoundRate / 4, kSoundRate / 2);
-  for (int bPause : {1, 0}) {
-    play.StopPlay(bPause);
-    EXPECT_GT(playing, 0.01f);
-    EXPECT_LT(Peak(PullMixer(kSoundRate / 2), cSynth::kBlock * 2, kSoundRate / 2), 1e-4f) << bPause;
-    play.Restart(0);
-    PullMixer(kSoundRate / 10);
-  }
-}
-
 TEST_F(MusicRenderTest, OggLoopsWithoutAGapAtItsOwnRateOrAnother) {
   for (int rate : {kSoundRate, 22050}) {
     WriteOgg("tone.ogg", rate, rate / 2, 441, 0.5);

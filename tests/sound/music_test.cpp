@@ -4,6 +4,7 @@
 #include "sound/music.h"
 
 #include <cstring>
+#include <tuple>
 
 #include "app/diagnostics.h"
 #include "platform/cp932.h"
@@ -63,8 +64,7 @@ TEST_F(MusicTest, AFailedPlayLeavesNoCurrentSlotAndTheCurrentSlotPlaysOnUnlessFo
   ASSERT_EQ(m_music.Init(1, &m_ogg, &m_mid, 1, 0), 1);
   m_music.SetSlot(0, "bad.mid", 100);
   EXPECT_EQ(m_music.Play(0, 0, 0, 0, 1), 0);
-  EXPECT_EQ(m_music.m_nCurrent, -1);
-  EXPECT_EQ(m_music.m_vecPlaying[0], MUSIC_NONE);
+  EXPECT_EQ(std::tie(m_music.m_nCurrent, m_music.m_vecPlaying[0]), std::make_tuple(-1, int{MUSIC_NONE}));
 
   m_music.SetSlot(0, "ok.mid", 100);
   EXPECT_EQ(m_music.Play(0, 0, 0, 0, 0), 1);  // goes through without force
@@ -75,8 +75,7 @@ TEST_F(MusicTest, AFailedPlayLeavesNoCurrentSlotAndTheCurrentSlotPlaysOnUnlessFo
   EXPECT_EQ(m_music.Play(0, 0, 0, 0, 1), 1);
   EXPECT_EQ(m_music.m_vecSmf[0]->State(), cSmfPlay::kPlaying);  // a new player
   m_music.Stop();
-  EXPECT_EQ(m_music.m_vecSmf[0]->State(), cSmfPlay::kStopped);
-  EXPECT_EQ(m_music.m_nCurrent, 0);
+  EXPECT_EQ(std::make_tuple(m_music.m_vecSmf[0]->State(), m_music.m_nCurrent), std::make_tuple(cSmfPlay::kStopped, 0));
 }
 
 TEST_F(MusicTest, AnUnknownKindTriesOggThenMidiAndEachSideStopsTheOther) {
@@ -85,12 +84,11 @@ TEST_F(MusicTest, AnUnknownKindTriesOggThenMidiAndEachSideStopsTheOther) {
   ASSERT_EQ(m_music.Init(1, &m_ogg, &m_mid, 1, 0), 1);
   EXPECT_EQ(m_music.SetSlot(0, "tune.dat", 100), 0);
   EXPECT_EQ(m_music.Play(0, 0, 0, 0, 1), 1);
-  EXPECT_EQ(m_music.m_vecPlaying[0], MUSIC_OGG);
-  EXPECT_EQ(m_music.IsPlaying(0), 1);
+  EXPECT_EQ(std::make_tuple(m_music.m_vecPlaying[0], m_music.IsPlaying(0)), std::make_tuple(int{MUSIC_OGG}, 1));
   m_music.SetSlot(0, "ok.mid", 100);
   EXPECT_EQ(m_music.Play(0, 0, 0, 0, 1), 1);
-  EXPECT_EQ(m_music.m_vecPlaying[0], MUSIC_MID);
-  EXPECT_EQ(m_music.m_vecVox.m_vecPlayer[0]->IsPlaying(), 0);
+  EXPECT_EQ(std::make_tuple(m_music.m_vecPlaying[0], m_music.m_vecVox.m_vecPlayer[0]->IsPlaying()),
+            std::make_tuple(int{MUSIC_MID}, 0));
   // The mid row of an unknown kind must still end in "mid" for the MIDI side.
   WriteBytes("song.dat", kSong);
   m_music.SetSlot(0, "song.dat", 100);
@@ -161,7 +159,7 @@ TEST_F(SoundTest, AnEntryPlaysAWaveFromItsPositionOrAMidiFileAndRefusesOtherFile
   EXPECT_EQ(sound.IsPlaying(), 0);
 
   EXPECT_EQ(sound.PlayFile(nullptr, 1, "song.MID", 0), 1);  // the sequencer, with the file's "mid"
-  EXPECT_EQ(sound.IsPlaying(), 1);
+  ASSERT_EQ(sound.IsPlaying(), 1);
   sound.StopEntry(0);
   EXPECT_EQ(sound.IsPlaying(), 0);
   for (const char* path : {"beep", "beep.ogg", "missing.wav"}) EXPECT_EQ(sound.PlayFile(nullptr, 1, path, 0), 0) << path;

@@ -80,16 +80,4 @@ TEST_F(SmfFormatTest, KeepsFourByteDeltasAndTheSourceDivision) {
   EXPECT_EQ(Load(Concat({SmfHeader(0, 1, 0xE728), TrackChunk(events)})), std::string(image.begin(), image.end()));
 }
 
-TEST(SmfVarLenTest, ReadsAtMostFourBytesAndStopsAtTheEnd) {
-  const cBytes data = Bytes({0x81, 0x80, 0x80, 0x00, 0xFF, 0xFF, 0xFF, 0xFF, 0x7F, 0x81});
-  std::size_t pos = 0;
-  std::uint32_t value = 0;
-  ASSERT_TRUE(ReadVarLen(data.data(), data.size(), pos, value));
-  EXPECT_EQ(value, 0x200000u);
-  ASSERT_TRUE(ReadVarLen(data.data(), data.size(), pos, value));
-  EXPECT_EQ(pos, 8u);  // a fifth byte belongs to what follows
-  ASSERT_TRUE(ReadVarLen(data.data(), data.size(), pos, value));
-  EXPECT_FALSE(ReadVarLen(data.data(), data.size(), pos, value));
-}
-
 }  // namespace

@@ -126,19 +126,6 @@ TEST_F(SmfPlayTest, ABufferCutEndsOnACallbackAndCarriesMetaDeltasOver) {
   EXPECT_EQ(player->m_nOffset, player->SongEnd());
 }
 
-TEST_F(SmfPlayTest, ALongEventThatFitsNoBufferIsDroppedWithItsDeltaKept) {
-  cBytes huge = Bytes({0xF0, 0x81, 0xEA, 0x30});  // 30000 bytes
-  huge.resize(4 + 30000, 0x11);
-  huge.back() = 0xF7;
-  auto player = Player(Song(1, {{5, huge}, {7, NoteOn(1, 60)}}));
-  MIDIHDR h{player->m_aBuffer[0].data(), 24000};
-  player->m_nOffset = kSmfImageEvents;
-  player->Fill(h);
-  EXPECT_EQ(h.dwBytesRecorded, 36u);
-  EXPECT_EQ(Word(h, 12), 17u);
-  EXPECT_EQ(Word(h, 20), 0x00643C91u);
-}
-
 TEST_F(SmfPlayTest, FeedsTwoBuffersAndRefillsEachAsTheStreamFinishesIt) {
   auto player = Player(Song(5000));  // 60012 bytes of records: three buffers
   EXPECT_EQ(player->m_pHeaders[0].dwFlags & MHDR_INQUEUE, MHDR_INQUEUE);  // queued at construction
@@ -166,20 +153,6 @@ TEST_F(SmfPlayTest, ALoopStartsAgainAtTheEndAndOnlyTheEndRecordEndsTheSong) {
   m_stream->PlayFront();
   EXPECT_EQ(m_log, (Log{"Stop", "Out 0", "Restart", "Out 1"}));
   EXPECT_EQ(player->State(), cSmfPlay::kPlaying);
-}
-
-TEST_F(SmfPlayTest, PauseKeepsThePlaceAndRestartGoesOnWithoutRefilling) {
-  auto player = Player(Song(10));
-  player->StopPlay(1);  // not playing: nothing
-  player->Restart(0);
-  player->StopPlay(1);
-  EXPECT_EQ(player->State(), cSmfPlay::kPaused);
-  player->Restart(0);
-  player->Restart(0);  // already playing
-  EXPECT_EQ(m_log, (Log{"Restart", "Pause", "Restart"}));
-  player->StopPlay(0);
-  EXPECT_EQ(m_log.back(), "Out 1");
-  EXPECT_EQ(player->m_nOffset, player->SongEnd());
 }
 
 TEST_F(SmfPlayTest, DestructionEndsTheThreadBeforeResettingAndClosingTheStream) {

@@ -163,8 +163,7 @@ TEST_F(MapViewDrawTest, EachCursorShapeAndPreview) {
   };
   g_Stage.Resize(4, 3);
   cEditState& es = g_EditState;
-  es.m_aBrushChip[0] = 1, es.m_aBrushChip[1] = 2;
-  es.m_nBrushW = 2, es.m_nBrushH = 1;
+  es.m_aBrushChip[0] = 1, es.m_aBrushChip[1] = 2, es.m_nBrushW = 2, es.m_nBrushH = 1;
   es.m_nLineX = 3, es.m_nLineY = 0;
   es.m_nRectX = es.m_nDragX = 3, es.m_nRectY = es.m_nDragY = 2, es.m_nRectW = 3, es.m_nRectH = 2;
   STAGE_VIEW v = View(128, 96, true);
@@ -232,39 +231,6 @@ TEST_F(MapViewDrawTest, WorldViewDrawsOverTheBackImageWithStageNumbers) {
     DrawWorldView(b, v);
     EXPECT_EQ(PixelAt(b, 40, 0), picking ? kPick : kWhite);
   }
-}
-
-TEST(MapGridTest, SameLinesAsTheSurfaceGrid) {
-  for (auto [bufW, bufH, w, h, bits] : {std::tuple{100, 70, 100, 70, 24}, {96, 64, 96, 64, 32}, {130, 100, 96, 64, 24},
-                                        {64, 40, 100, 70, 32}, {40, 40, 0, 10, 24}, {40, 40, 30, 33, 8}}) {
-    cSurface a;
-    a.Create(bufW, bufH, bits, 0);
-    for (std::size_t i = 0; i < a.m_vecBits.size(); ++i) a.m_vecBits[i] = static_cast<unsigned char>(i * 7);
-    cSurface b = a;
-    a.Grid(0, 0, w, h, 32, 32, 0xFFFFFF);
-    MAP_VIEW v;
-    v.m_nWidth = w, v.m_nHeight = h;
-    DrawMapGrid(b, v);
-    EXPECT_TRUE(a.m_vecBits == b.m_vecBits) << bufW << "x" << bufH << " view " << w << "x" << h;
-  }
-}
-
-TEST_F(MapViewDrawTest, ResetChoosesTheFirstEventOnlyWhenThereIsOne) {
-  auto saved = [](const int (&row)[PALSTATE_COUNT]) { return std::vector<int>(row, row + PALSTATE_COUNT); };
-  for (bool events : {false, true}) {
-    if (events) PutEvent(0, 0, 0), g_WorldMap.m_vecEvent.push_back(cWorldEvent());
-    g_EditState.m_nCursorShape = CURSOR_PICK;
-    g_EditState.m_bStageOpen = 1;
-    g_EditState.Reset();
-    g_WorldEditState.m_bPicking = 1;
-    g_WorldEditState.Reset();
-    EXPECT_EQ(std::tie(g_EditState.m_bStageOpen, g_EditState.m_nCursorShape, g_EditState.m_nDragX, g_WorldEditState.m_bPicking),
-              std::make_tuple(1, 0, -1, 0));
-    EXPECT_EQ(saved(g_EditState.m_aPaletteState[1]), (std::vector<int>{0, 0, -1, -1, 0, 0}));
-    EXPECT_EQ(saved(g_EditState.m_aPaletteState[2]), events ? (std::vector<int>{0, 0, 0, 0, 1, 1}) : (std::vector<int>{0, 0, -1, 0, 0, 0}));
-    EXPECT_EQ(saved(g_WorldEditState.m_aPaletteState[1]), events ? (std::vector<int>{0, 0, 0, 0, 1, 1}) : (std::vector<int>{0, 0, -1, -1, 0, 0}));
-  }
-  EXPECT_EQ(g_WorldEditState.m_PutEvent.m_strName, g_WorldMap.m_vecEventPlt[0].m_strName);
 }
 
 }  // namespace

@@ -25,9 +25,7 @@ int& Cell(cStage& stage, int x, int y) { return stage.m_vecMap[static_cast<std::
 template <class Event>
 Event Named(const char* name, int x = 0, int y = 0) {
   Event event;
-  event.m_strName = name;
-  event.m_nX = x;
-  event.m_nY = y;
+  event.m_strName = name, event.m_nX = x, event.m_nY = y;
   return event;
 }
 
@@ -67,8 +65,8 @@ TEST_F(StageTest, AVersion60FileListsEnemiesFirstAndIsSavedWithGroupsFirst) {
   EXPECT_EQ(std::tie(Cell(g_Stage, 1, 1), g_Stage.m_vecMap[5], g_Stage.m_vecPutEnemy.at(0).m_nX), std::make_tuple(2, 4, 2));
   EXPECT_EQ(std::tie(g_Stage.m_vecEvent.at(0).m_strName, g_Stage.m_vecOldEvent.at(0).m_strName),
             std::make_tuple("placed", "oldlist"));
-  EXPECT_EQ(g_Stage.m_vecGroupPos.at(1).m_vecPos, (VECTOR_CLASS<cMapPos>{{1, 2}, {3, 0}}));
-  EXPECT_EQ(g_Stage.m_vecWinCond.at(0).m_strText, "win");
+  EXPECT_EQ(std::tie(g_Stage.m_vecGroupPos.at(1).m_vecPos, g_Stage.m_vecWinCond.at(0).m_strText),
+            std::make_tuple(VECTOR_CLASS<cMapPos>{{1, 2}, {3, 0}}, "win"));
 
   cStage loaded = g_Stage;
   ASSERT_EQ(g_Stage.SaveFile("new.stg2"), 1);
@@ -78,8 +76,7 @@ TEST_F(StageTest, AVersion60FileListsEnemiesFirstAndIsSavedWithGroupsFirst) {
   EXPECT_EQ(std::search(saved.begin(), saved.end(), old.m_strName.begin(), old.m_strName.end()), saved.end());
   g_Stage.Init();
   ASSERT_EQ(g_Stage.LoadFile("new.stg2"), 1);
-  EXPECT_TRUE(Compare(g_Stage, loaded));
-  EXPECT_TRUE(g_Stage.m_vecOldEvent.empty());
+  EXPECT_TRUE(Compare(g_Stage, loaded) && g_Stage.m_vecOldEvent.empty());
 }
 
 TEST_F(StageTest, StridesFollowEachMapsRuleAndCellsKeepTheirPlace) {
@@ -91,8 +88,9 @@ TEST_F(StageTest, StridesFollowEachMapsRuleAndCellsKeepTheirPlace) {
           << width;
     }
     g_WorldMap.Resize(width, 3);
-    EXPECT_EQ(g_WorldMap.m_nStride, worldStride) << width;
-    EXPECT_EQ(g_WorldMap.m_vecMap.size(), static_cast<std::size_t>(worldStride) * 3u) << width;
+    EXPECT_EQ(std::make_tuple(g_WorldMap.m_nStride, g_WorldMap.m_vecMap.size()),
+              std::make_tuple(worldStride, static_cast<std::size_t>(worldStride) * 3u))
+        << width;
   }
 
   g_Stage.Resize(20, 15);
@@ -165,8 +163,7 @@ TEST_F(StageTest, AFileWhoseSizesDisagreeIsRefusedAndTheStageStays) {
       g_Stage = before;
       continue;
     }
-    EXPECT_TRUE(Compare(g_Stage, before)) << c.width;
-    EXPECT_EQ(g_Stage.m_vecPutEnemy.size(), 1u);
+    EXPECT_TRUE(Compare(g_Stage, before) && g_Stage.m_vecPutEnemy.size() == 1u) << c.width;
     EXPECT_NE(g_strLastSerialFailure.find("stage file refused"), std::string::npos) << g_strLastSerialFailure;
   }
 }
@@ -184,17 +181,14 @@ TEST_F(StageTest, OneEventPerCellOnBothMaps) {
     map.PutEvent(b, 2, 2);
     map.PutEvent(c, 1, 1);  // replaces a; the new one goes to the end
     EXPECT_EQ(names(), (std::vector<std::string>{"b@22", "c@11"}));
-    EXPECT_EQ(std::tie(c.m_nX, c.m_nY), std::make_tuple(1, 1));
-    EXPECT_EQ(map.EventAt(1, 1)->m_strName, "c");
-    EXPECT_EQ(map.EventAt(3, 3), nullptr);
-    EXPECT_EQ(map.HasEventAt(2, 2), 1);
+    EXPECT_EQ(std::tie(c.m_nX, c.m_nY, map.EventAt(1, 1)->m_strName), std::make_tuple(1, 1, "c"));
+    EXPECT_TRUE(map.EventAt(3, 3) == nullptr && map.HasEventAt(2, 2) == 1);
     // An element of the list put on an occupied cell: the removal shifts it away.
     map.PutEvent(map.m_vecEvent[1], 2, 2);
     EXPECT_EQ(names(), (std::vector<std::string>{"c@11", "c@22"}));
-    EXPECT_EQ(map.RemoveEvent(&c), 0);
+    EXPECT_EQ(map.RemoveEvent(&c), 0);  // not an element of the list
     EXPECT_EQ(map.RemoveEvent(&map.m_vecEvent[0]), 1);
-    EXPECT_EQ(map.RemoveEventsAt(2, 2), 1);
-    EXPECT_EQ(map.RemoveEventsAt(2, 2), 0);
+    for (int removed : {1, 0}) EXPECT_EQ(map.RemoveEventsAt(2, 2), removed);
     map.m_vecMap[3] = 5;
     map.ClearMap();
     EXPECT_EQ(map.m_vecMap, VECTOR_CLASS<int>(map.m_vecMap.size(), 0));

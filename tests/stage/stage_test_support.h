@@ -13,7 +13,6 @@ class StageTest : public ProjectDirTest {
  protected:
   void SetUp() override {
     ProjectDirTest::SetUp();
-    m_saved = {g_Database, g_vecLand, g_vecEnemy, g_Stage, g_WorldMap, g_EditConfig, g_EditState};
     g_vecLand.resize(5);
     g_Database.m_vecBack.resize(3);
     g_Database.m_vecBgm.resize(2);
@@ -22,11 +21,6 @@ class StageTest : public ProjectDirTest {
     g_Stage.Init();
     g_WorldMap.Init();
   }
-  void TearDown() override {
-    std::tie(g_Database, g_vecLand, g_vecEnemy, g_Stage, g_WorldMap, g_EditConfig, g_EditState) = m_saved;
-    ProjectDirTest::TearDown();
-  }
-
   // A record's fields as a program of `version` wrote them inside a file.
   static cDbStream Body(cSerial& record, std::uint32_t version) {
     std::vector<unsigned char> bytes = StreamAtVersion(record, version);
@@ -36,5 +30,6 @@ class StageTest : public ProjectDirTest {
   }
 
  private:
-  std::tuple<cDatabase, VECTOR_CLASS<cLand>, VECTOR_CLASS<cEnemy>, cStage, cWorldMap, cEditConfig, cEditState> m_saved;
+  cGlobalsGuard<cDatabase, VECTOR_CLASS<cLand>, VECTOR_CLASS<cEnemy>, cStage, cWorldMap, cEditConfig, cEditState> m_guard{
+      g_Database, g_vecLand, g_vecEnemy, g_Stage, g_WorldMap, g_EditConfig, g_EditState};
 };

@@ -55,10 +55,7 @@ TEST_F(StageTest, OldWorldMapsGetTheirChipsAndKeepWhatTheyLack) {
 
 TEST_F(StageTest, WorldPagesMigrate) {
   cWorldEventPage page;
-  page.m_strStagePath = "stg\\a.b\\one.stg";
-  page.m_strStageName = "name";
-  page.m_bVariation = 1;
-  page.m_nVarNo = 7;
+  page.m_strStagePath = "stg\\a.b\\one.stg", page.m_strStageName = "name", page.m_bVariation = 1, page.m_nVarNo = 7;
   for (auto [version, path, name, varNo] : {std::tuple{53u, "stg\\a.b\\one.stg2", "", 1}, {105u, "stg\\a.b\\one.stg2", "", 7},
                                             {106u, "stg\\a.b\\one.stg", "", 7}, {107u, "stg\\a.b\\one.stg", "name", 7}}) {
     cWorldEventPage loaded = LoadedFrom<cWorldEventPage>(StreamAtVersion(page, version));

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "platform/prompt.h"
@@ -32,6 +33,21 @@ class cScriptedPrompt : public cPrompt {
 
   int MessageBox(void* owner, const std::string& text, const std::string& caption, unsigned style) override;
   void Beep() override { ++beeps; }
+};
+
+// Copies the given globals now and puts them back when it goes: a member of a fixture
+// restores them after every test, whatever the test left.
+template <class... T>
+class cGlobalsGuard {
+ public:
+  explicit cGlobalsGuard(T&... globals) : m_globals(globals...), m_saved(globals...) {}
+  ~cGlobalsGuard() { m_globals = m_saved; }
+  cGlobalsGuard(const cGlobalsGuard&) = delete;
+  cGlobalsGuard& operator=(const cGlobalsGuard&) = delete;
+
+ private:
+  std::tuple<T&...> m_globals;
+  std::tuple<T...> m_saved;
 };
 
 // A fresh directory made current for the test, with the diagnostics, kernel globals

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "platform/cp932.h"
 #include "toolkit/char_count.h"
 #include "toolkit/editstr_rules.h"
@@ -9,13 +11,6 @@
 namespace {
 
 std::string Sjis(const char* utf8) { return Cp932FromLiteral(utf8); }
-
-// The shortening as written: byte by byte from the end until the line fits.
-std::size_t FitByShortening(std::string_view line, int max) {
-  std::size_t n = line.size();
-  while (n > 0 && CharCount(line.substr(0, n)) > max) --n;
-  return n;
-}
 
 struct cWrapCase {
   const char* name;
@@ -42,13 +37,6 @@ TEST(CharCountTest, CountsAsTheGameDoes) {
   EXPECT_EQ(LineCount("a\r\nb\r\n"), 3);
 }
 
-TEST(CharCountTest, FitAgreesWithShorteningByteByByte) {
-  const std::string lines[] = {Sjis("あいうえお"), "ab#P12.cd", "#P1.2.3.4.5x", "a#p99", Sjis("#P9あ#P#p1.い"),
-                               "abc\x82", "#P" + std::string(20, '1')};
-  for (const std::string& line : lines)
-    for (int max = 0; max <= 6; ++max) EXPECT_EQ(FitCharCount(line, max), FitByShortening(line, max)) << line << max;
-}
-
 TEST(EditStrRulesTest, WrapFlowAndRefusal) {
   const std::string a30(30, 'a');
   const cWrapCase cases[] = {
@@ -70,8 +58,7 @@ TEST(EditStrRulesTest, WrapFlowAndRefusal) {
     ASSERT_EQ(box.text, c.last);
     box = {c.typed, c.caret, c.caret};
     r.OnChange(box, c.backspace);
-    EXPECT_EQ(box.text, c.shown);
-    EXPECT_EQ(box.selStart, c.caretAfter);
+    EXPECT_EQ(std::tie(box.text, box.selStart), std::make_tuple(c.shown, c.caretAfter));
     EXPECT_EQ(r.Last(), c.shown);
   }
 }
@@ -109,15 +96,11 @@ TEST(EditStrRulesTest, ApplyReadsAtMostTheLimit) {
 TEST(EditBoxTest, ScreenTextAndPositions) {
   cEditBox box;
   ASSERT_TRUE(EditBoxFromScreen("あ\nb", 2, 3, box));
-  EXPECT_EQ(box.text, Sjis("あ") + "\r\nb");
-  EXPECT_EQ(box.selStart, 4);
-  EXPECT_EQ(box.selEnd, 5);
+  EXPECT_EQ(std::tie(box.text, box.selStart, box.selEnd), std::make_tuple(Sjis("あ") + "\r\nb", 4, 5));
   std::string utf8;
   int s = 0, e = 0;
   ScreenFromEditBox(box, utf8, s, e);
-  EXPECT_EQ(utf8, "あ\nb");
-  EXPECT_EQ(s, 2);
-  EXPECT_EQ(e, 3);
+  EXPECT_EQ(std::tie(utf8, s, e), std::make_tuple("あ\nb", 2, 3));
   EXPECT_FALSE(EditBoxFromScreen("a\xF0\x9F\x98\x80", 0, 0, box));  // no CP932 form: refused
   EXPECT_EQ(box.text, Sjis("あ") + "\r\nb");
 }

@@ -1,23 +1,16 @@
-// The template's pictures and tunes as the editor reads them: every graphic the layout
-// names shows at its place, transparent where nothing is drawn, and the tunes are
-// well-formed songs of the parts they were written with.
+// The template's pictures as the editor reads them: every graphic the layout names
+// shows at its place, transparent where nothing is drawn.
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <functional>
-#include <set>
 
 #include <unistd.h>
 
 #include "art/art_layout.h"
-#include "art/audio.h"
-#include "art/painter.h"
-#include "art/sheet_files.h"
-#include "art/smf_writer.h"
 #include "art/template_art.h"
 #include "media/surface.h"
-#include "sound/smf_format.h"
 
 namespace fs = std::filesystem;
 using namespace TemplateArt;
@@ -97,99 +90,6 @@ TEST_F(TemplateArtTest, EveryGraphicShowsAtItsPlaceAndLeavesTheRestTransparent) 
       EXPECT_LT(drawn, c.size * c.size) << c.sheet << " cell " << n << " has no transparent pixel";
     }
   }
-}
-
-TEST_F(TemplateArtTest, EffectSheetsHoldEveryMotifButTheNoneGraphic) {
-  for (int variant = 0; variant < kEffectVariantCount; ++variant) {
-    const cSurface sheet = Load("Effect" + std::to_string(variant + 1) + ".png", false);
-    ASSERT_FALSE(sheet.IsEmpty());
-    for (int motif = 0; motif < kEffectMotifCount; ++motif) {
-      const int drawn = Drawn(sheet, 0, motif * 64, 512, 64);
-      if (EffectGraphic(variant, static_cast<EffectMotif>(motif)) == 0) EXPECT_EQ(drawn, 0);
-      else EXPECT_GT(drawn, 400) << "sheet " << variant + 1 << " motif " << motif;
-    }
-  }
-}
-
-// The statuses and the tempo of a normalised song image.
-struct cSongSummary {
-  std::set<int> statuses;
-  std::uint32_t tempo = 0;
-};
-
-cSongSummary Summarise(const std::string& image) {
-  cSongSummary song;
-  const auto* data = reinterpret_cast<const unsigned char*>(image.data());
-  std::size_t pos = kSmfImageEvents;
-  std::uint32_t delta = 0, length = 0;
-  while (pos < image.size() && ReadVarLen(data, image.size(), pos, delta)) {
-    const int status = data[pos++];
-    song.statuses.insert(status);
-    if (status == 0xFF) {
-      const int type = data[pos++];
-      if (!ReadVarLen(data, image.size(), pos, length)) break;
-      if (type == 0x51) song.tempo = data[pos] << 16 | data[pos + 1] << 8 | data[pos + 2];
-      pos += length;
-    } else {
-      pos += (status & 0xE0) == 0xC0 ? 1 : 2;
-    }
-  }
-  return song;
-}
-
-TEST_F(TemplateArtTest, TunesAreFormat1SongsWithTempoPartsAndDrums) {
-  const double kBpm[] = {96, 148};
-  for (int n = 0; n < static_cast<int>(std::size(kBgmFiles)); ++n) {
-    const std::string tune = art::ComposeTune(n);
-    EXPECT_EQ(tune, art::ComposeTune(n)) << "not deterministic";
-    const auto* data = reinterpret_cast<const unsigned char*>(tune.data());
-    ASSERT_GT(tune.size(), 14u);
-    EXPECT_EQ(data[9], 1) << "format";
-    EXPECT_EQ(data[11], 5) << "tracks: conductor, melody, chords, bass, drums";
-    std::string image;
-    ASSERT_EQ(NormaliseSmf(data, tune.size(), image), eSmfCheck::kOk) << kBgmFiles[n];
-    const cSongSummary song = Summarise(image);
-    EXPECT_EQ(song.tempo, static_cast<std::uint32_t>(60000000.0 / kBpm[n] + 0.5)) << kBgmFiles[n];
-    for (int status : {0x90, 0x91, 0x92, 0x99, 0xC0, 0xC1, 0xC2, 0xC9, 0xFF})
-      EXPECT_TRUE(song.statuses.count(status)) << kBgmFiles[n] << " lacks status " << status;
-  }
-}
-
-TEST(TemplateArtToolkitTest, NoiseWrapsAtItsPeriodSoChipsTile) {
-  for (float x : {0.f, 3.5f, 17.f, 31.f})
-    for (float y : {0.f, 9.f, 30.5f}) {
-      EXPECT_FLOAT_EQ(art::Noise(x, y, 8, 32, 7), art::Noise(x + 32, y - 32, 8, 32, 7));
-      EXPECT_FLOAT_EQ(art::Fbm(x, y, 8, 32, 7), art::Fbm(x - 32, y + 64, 8, 32, 7));
-    }
-}
-
-TEST_F(TemplateArtTest, KeyedSheetsNeverDrawInTheKeyColourAndMaskedOnesUseAlpha) {
-  art::cCanvas canvas(4, 1);
-  canvas.Put(0, 0, art::Hex(kKeyColour));  // drawn, though in the key colour
-  canvas.Put(1, 0, art::Hex(0x80C040));
-  std::string error;
-  for (const bool mask : {false, true}) {
-    const std::string name = mask ? "probe-masked.png" : "probe-keyed.png";
-    ASSERT_TRUE(art::SaveSheet(canvas, mask ? art::eSheetKind::kMasked : art::eSheetKind::kKeyed,
-                               s_root / "image" / name, error))
-        << error;
-    const cSurface sheet = Load(name, true);
-    EXPECT_EQ(Drawn(sheet, 0, 0, 1, 1), 1) << name;
-    EXPECT_EQ(Drawn(sheet, 1, 0, 1, 1), 1) << name;
-    EXPECT_EQ(Drawn(sheet, 2, 0, 2, 1), 0) << name;
-  }
-}
-
-TEST(TemplateArtToolkitTest, SmfTracksEndNotesBeforeTheNextStartsAndEndWhereTold) {
-  art::cSmfTrack track;
-  track.Note(240, 0, 60, 100, 240);  // a repeated key: the second note starts as the first ends
-  track.Note(0, 0, 60, 90, 240);
-  const std::string chunk = track.Chunk(960);
-  const unsigned char expected[] = {'M', 'T', 'r', 'k', 0, 0, 0, 23,                   // header
-                                    0x00, 0x90, 60, 90,   0x81, 0x70, 0x80, 60, 0x40,  // first note
-                                    0x00, 0x90, 60, 100,  0x81, 0x70, 0x80, 60, 0x40,  // second note
-                                    0x83, 0x60, 0xFF, 0x2F, 0x00};                     // end at 960
-  EXPECT_EQ(chunk, std::string(reinterpret_cast<const char*>(expected), sizeof expected));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <map>
+#include <tuple>
 
 #include "app/edit_config_load.h"
 #include "art/art_layout.h"
@@ -94,24 +95,22 @@ TEST_F(TemplateTest, FirstStartLoadsTheProjectAndOpensTheSampleStage) {
     std::string stored = i == 19 ? WorldBackImagePath() : descs[i].szPath;
     if (stored == "E" || g_aSheet[i].m_nWidth == 0) continue;
     const TemplateArt::SheetSize size = DrawnSize(stored);
-    EXPECT_EQ(g_aSheet[i].m_nWidth, size.width) << stored;
-    EXPECT_EQ(g_aSheet[i].m_nHeight, size.height) << stored;
+    EXPECT_EQ(std::tie(g_aSheet[i].m_nWidth, g_aSheet[i].m_nHeight), std::tie(size.width, size.height)) << stored;
   }
 
   // References into the media tables, which no load repairs.
   for (const cSkill& skill : g_vecSkillList[0].m_vecSkill) {
-    EXPECT_LT(skill.m_nSound, SoundRows());
-    EXPECT_LT(skill.m_nCharaAnim, g_Database.m_vecCharaAnimPat.Count());
-    EXPECT_LT(skill.m_nEffectAnim, g_Database.m_vecEffectAnimPat.Count());
+    EXPECT_TRUE(skill.m_nSound < SoundRows() && skill.m_nCharaAnim < g_Database.m_vecCharaAnimPat.Count() &&
+                skill.m_nEffectAnim < g_Database.m_vecEffectAnimPat.Count())
+        << skill.m_strName;
   }
   for (const cLand& land : g_vecLand) EXPECT_LT(land.m_nGraphic, TemplateArt::kMapChipCount);
 
-  ASSERT_EQ(LoadLastStage(g_EditConfig.m_strStagePath), 1);
   EXPECT_EQ(g_EditConfig.m_strStagePath, "data\\stg\\Sample.stg2");
+  ASSERT_EQ(LoadLastStage(g_EditConfig.m_strStagePath), 1);
   ASSERT_EQ(g_Stage.m_vecPutEnemy.size(), 9u);
   for (const cPutEnemy& put : g_Stage.m_vecPutEnemy) {
-    ASSERT_GT(put.m_nEnemy, 0);
-    ASSERT_GE(put.m_nX, 0);
+    ASSERT_TRUE(put.m_nEnemy > 0 && put.m_nX >= 0);
     const cLand& land = g_vecLand[g_Stage.m_vecMap[(put.m_nY << g_Stage.m_nShift) + put.m_nX]];
     EXPECT_TRUE(!land.m_bNoMove || g_vecClass[g_vecEnemy[put.m_nEnemy].m_nClass].m_bFly) << put.m_nX << "," << put.m_nY;
     EXPECT_FALSE(put.m_vecMoveAI.empty());
@@ -147,8 +146,7 @@ TEST_F(TemplateTest, FirstStartLoadsTheProjectAndOpensTheSampleStage) {
   EXPECT_EQ(ini.m_nFrameRate, 60);
   VECTOR_CLASS<std::string> names;
   BuildNameFileList(names);
-  EXPECT_EQ(names.size(), 3u);
-  EXPECT_EQ(names[0].substr(0, 4), "000 ");
+  EXPECT_TRUE(names.size() == 3u && names[0].starts_with("000 "));
 }
 
 // Texts the forms would cut, or that have no Japanese reading, are faults of the tables.
@@ -193,16 +191,14 @@ TEST_F(TemplateTest, TextsAreJapaneseAndFitTheirFields) {
   for (const cWorldChip& chip : g_WorldMap.m_vecChip) fits(chip.m_strName, 8, "world chip");
   for (const cWorldEvent& event : g_WorldMap.m_vecEvent) fits(event.m_strName, 20, "world event");
   for (std::size_t i = 1; i < g_Stage.m_vecGroupPos.size(); ++i) fits(g_Stage.m_vecGroupPos[i].m_strName, 8, "group");
-  for (const auto* lines : {&g_Stage.m_vecWinCond, &g_Stage.m_vecLoseCond, &g_Stage.m_vecRuleCond}) {
+  for (const auto* lines : {&g_Stage.m_vecWinCond, &g_Stage.m_vecLoseCond, &g_Stage.m_vecRuleCond})
     for (const cEndCond& line : *lines) fits(line.m_strText, 30, "stage line");
-  }
   for (const auto* events : {&g_Stage.m_vecEvent, &g_vecEventPlt}) {
     for (const cEvent& event : *events) {
       fits(event.m_strName, 40, "event");
       for (const cEventPage& page : event.m_vecPage) {
-        for (const cEventAct& act : page.m_vecAct) {
+        for (const cEventAct& act : page.m_vecAct)
           if (act.m_nKind == EACT_MESSAGE) fits(act.m_vecStr[0], 30, "message");
-        }
       }
     }
   }

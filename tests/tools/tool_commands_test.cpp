@@ -1,5 +1,7 @@
 // ortalune-tool as an author runs it.
 
+#include <tuple>
+
 #include "app/prop_sheet_size.h"
 #include "command_table.h"
 #include "database/csv_file.h"
@@ -63,14 +65,12 @@ TEST_F(ResaveTest, RewritesAnOldFileAtTheCurrentVersion) {
   size.m_nOsMajor = 10;
   ASSERT_EQ(size.SaveFile("SheetSize.dat"), 1);
   std::vector<unsigned char> old = FileBytes("SheetSize.dat");
-  old[0] = 36;  // as an old program wrote it
-  old[1] = 0;
+  old[0] = 36, old[1] = 0;  // as an old program wrote it
   WriteBytes("SheetSize.dat", old);
 
   EXPECT_EQ(Tool({"resave", "SheetSize.dat", "out.dat"}), kToolOk);
   std::vector<unsigned char> expected = old;
-  expected[0] = 0x22;
-  expected[1] = 1;
+  expected[0] = 0x22, expected[1] = 1;
   EXPECT_EQ(FileBytes("out.dat"), expected);
   EXPECT_EQ(FileBytes("SheetSize.dat"), old);  // the input stays when OUT is given
 
@@ -94,10 +94,9 @@ TEST_F(ResaveTest, RefusesWhatItCannotReadAndLeavesTheFileAlone) {
   EXPECT_EQ(FileBytes("SheetSize.dat"), cut);
 
   EXPECT_EQ(Tool({"resave", "missing/SheetSize.dat"}), kToolFailed);
-  EXPECT_EQ(Tool({"resave", "Unknown.dat"}), kToolUsage);
-  EXPECT_EQ(Tool({"resave", "--type", "Nope", "SheetSize.dat"}), kToolUsage);
-  EXPECT_EQ(Tool({"resave"}), kToolUsage);
-  EXPECT_EQ(Tool({"frobnicate"}), kToolUsage);
+  for (std::vector<std::string> args : {std::vector<std::string>{"resave", "Unknown.dat"},
+                                        {"resave", "--type", "Nope", "SheetSize.dat"}, {"resave"}, {"frobnicate"}})
+    EXPECT_EQ(Tool(args), kToolUsage) << args[0];
   EXPECT_EQ(Tool({"--help"}), kToolOk);
 }
 
@@ -140,8 +139,7 @@ TEST_F(ResaveTest, TheTablesOfTheProjectHereAreLoadedFirstOrNothingIsWritten) {
   cPropSheetSize size;
   ASSERT_EQ(size.SaveFile("SheetSize.dat"), 1);
   std::vector<unsigned char> before = FileBytes("SheetSize.dat");
-  before[0] = 200;  // version 200
-  before[1] = 0;
+  before[0] = 200, before[1] = 0;  // version 200
   WriteBytes("SheetSize.dat", before);
 
   fs::create_directories("data");  // a project whose files are missing
@@ -221,6 +219,6 @@ TEST_F(CsvToolTest, ExportAndImportRunTheEditorsExchangeOnAProject) {
   EXPECT_EQ(Tool({"csv", "import", "proj", "1", "one.csv"}), kToolOk) << g_toolErr;
   VECTOR_CLASS<cSkillList> lists;
   ASSERT_EQ(LoadVector(lists, skillFile), 1);
-  EXPECT_EQ(lists[0].m_vecSkill[2].m_nPrice, 1234);
-  EXPECT_EQ(lists[0].m_vecSkill[2].m_strName, Cp932FromLiteral("炎,氷"));
+  EXPECT_EQ(std::tie(lists[0].m_vecSkill[2].m_nPrice, lists[0].m_vecSkill[2].m_strName),
+            std::make_tuple(1234, Cp932FromLiteral("炎,氷")));
 }
