@@ -1,13 +1,16 @@
 #include "database/move_ai.h"
 
+#include <climits>
+
 #include "database/table_rows.h"
 #include "kernel/serial_fields.h"
 
 namespace {
 
-// Goals that older formats numbered lower: those at or above `from` move up by one.
+// Goals that older formats numbered lower: those at or above `from` move up by one. A
+// damaged file's largest number has nowhere to move and stays.
 void ShiftGoal(int& goal, int from) {
-  if (goal >= from) ++goal;
+  if (goal >= from && goal < INT_MAX) ++goal;
 }
 
 }  // namespace

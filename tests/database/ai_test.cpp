@@ -1,6 +1,7 @@
 // Battle and move AI: their bytes, the migrations of old rules, reference repair and
 // the list texts.
 
+#include <climits>
 #include <filesystem>
 #include <tuple>
 
@@ -69,7 +70,8 @@ TEST_F(AITest, NewRecordsHaveTheirBytesAndTemplatesTheirFile) {
 
 TEST_F(AITest, GoalsOfOldRulesMoveUpOverTheGoalsInsertedLater) {
   struct Case { std::uint32_t version; int stored, loaded; } cases[] = {
-      {47, 5, 7}, {47, 4, 5}, {47, 3, 4}, {47, 2, 2}, {48, 5, 6}, {49, 3, 4}, {50, 5, 5}, {50, 3, 3}};
+      {47, 5, 7}, {47, 4, 5}, {47, 3, 4}, {47, 2, 2}, {48, 5, 6}, {49, 3, 4}, {50, 5, 5}, {50, 3, 3},
+      {47, INT_MAX, INT_MAX}};  // a damaged file's largest number stays
   for (const Case& c : cases) {
     cMoveAI rule;
     rule.m_nGoal = c.stored;
