@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "app/edit_config_load.h"
 #include "app/report_startup.h"
 #include "app/single_instance.h"

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "platform/cp932.h"
 
 namespace {

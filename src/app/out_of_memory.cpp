@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <new>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "platform/cp932.h"
 
 namespace {

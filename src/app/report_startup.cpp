@@ -1,6 +1,6 @@
 #include "app/report_startup.h"
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "app/machine_report.h"
 #include "kernel/serial.h"
 

@@ -1,6 +1,6 @@
 #include "app/single_instance.h"
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "platform/cp932.h"
 
 bool PassSingleInstance(cInstanceLock& lock, std::string_view name) {

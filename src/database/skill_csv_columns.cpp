@@ -5,8 +5,8 @@
 #include <type_traits>
 #include <utility>
 
-#include "app/diagnostics.h"
-#include "app/main_window_link.h"
+#include "platform/diagnostics.h"
+#include "platform/main_window_link.h"
 #include "database/csv_numbers.h"
 #include "database/label_table.h"
 #include "platform/cp932.h"

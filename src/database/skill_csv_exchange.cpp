@@ -1,6 +1,6 @@
 #include "database/skill_csv_exchange.h"
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "database/csv_file.h"
 #include "database/csv_numbers.h"
 #include "database/skill_csv_read.h"

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "database/csv_numbers.h"
 #include "platform/cp932.h"
 

@@ -7,9 +7,6 @@
 #include "platform/cp932.h"
 #include "project/project_globals.h"
 #include "toolkit/file_helpers.h"
-#include "toolkit/form_layout.h"
-
-DLG_TESTPLAY* g_pDlgTestPlay = nullptr;
 
 bool GamePathOf(const std::string& native, std::string& stored) {
   std::string path = native;
@@ -22,67 +19,35 @@ bool GamePathOf(const std::string& native, std::string& stored) {
   return true;
 }
 
-DLG_TESTPLAY::DLG_TESTPLAY(QWidget* parent) : DLG_CLASS(kTemplateId, parent) {
-  g_pDlgTestPlay = this;
+DLG_TESTPLAY::DLG_TESTPLAY(QWidget* parent) : DLG_CLASS(parent, "テストプレイの設定") {
   cTestPlay& t = g_TestPlay;
-  Declare(m_vecEditStr, {{.nId = kIdGamePath, .pStr = &t.m_strGamePath, .nLimit = kGamePathBytes, .nLineLen = kGamePathBytes, .nMaxLines = 1}});
-  Declare(m_vecCheck, {{kIdAutoFind, &t.m_bAutoFind}, {kIdNoRandomGrowth, &t.m_bNoRandomGrowth}, {kIdNoRandomSense, &t.m_bNoRandomSense}});
-  Declare(m_vecCombo, {{.nId = kIdRandomSkill, .pData = &t.m_nRandomSkill, .pLabels = kTestRandomSkillLabels},
-                       {.nId = kIdSkillLevel, .pData = &t.m_nSkillLevel, .pLabels = kTestSkillLevelLabels},
-                       {.nId = kIdTraining, .pData = &t.m_nTraining, .pLabels = kTestTrainingLabels}});
-  Declare(m_vecButton, {{kIdBrowse}});
+  cFormTable& F = Table();
+  F.Group("テストプレイ用のゲームプログラムのパス");
+  F.Check(kIdAutoFind, "自動で取得", &t.m_bAutoFind).Span(2).Row();
+  // The path is the user's only while the program is not found by itself.
+  F.EditStr(kIdGamePath, "", &t.m_strGamePath, {.nLimit = kGamePathBytes, .nLineLen = kGamePathBytes, .nMaxLines = 1})
+      .DisableBy(kIdAutoFind);
+  F.Button(kIdBrowse, "参照").Row();
+  F.EndGroup();
+  F.Group("テストプレイ時のみ有効な設定");
+  F.Check(kIdNoRandomGrowth, "ランダム能力値成長を無効化", &t.m_bNoRandomGrowth).Row();
+  F.Check(kIdNoRandomSense, "ランダムセンス上昇を無効化", &t.m_bNoRandomSense).Row();
+  F.Combo(kIdRandomSkill, "ランダムスキル習得", &t.m_nRandomSkill, kTestRandomSkillLabels).LabelAbove().Row();
+  F.Combo(kIdSkillLevel, "ランダムスキル習得におけるスキルの習得レベル", &t.m_nSkillLevel, kTestSkillLevelLabels)
+      .LabelAbove()
+      .Row();
+  F.Combo(kIdTraining, "トレーニング", &t.m_nTraining, kTestTrainingLabels).LabelAbove().Row();
+  F.EndGroup();
+  F.OkCancel();
 }
 
-DLG_TESTPLAY::~DLG_TESTPLAY() {
-  if (g_pDlgTestPlay == this) g_pDlgTestPlay = nullptr;
+bool DLG_TESTPLAY::OnOk() {
+  g_TestPlay.SaveFile(kTestPlayPath);
+  return true;
 }
 
-void DLG_TESTPLAY::Layout(cFormLayout& L) {
-  L.Group("テストプレイ用のゲームプログラムのパス");
-  L.Check(kIdAutoFind, "自動で取得", 2).Row();
-  L.EditStr(kIdGamePath).Button(kIdBrowse, "参照").Row();
-  L.EndGroup().Row();
-  L.Group("テストプレイ時のみ有効な設定");
-  L.Check(kIdNoRandomGrowth, "ランダム能力値成長を無効化").Row();
-  L.Check(kIdNoRandomSense, "ランダムセンス上昇を無効化").Row();
-  L.Text("ランダムスキル習得").Row().Combo(kIdRandomSkill).Row();
-  L.Text("ランダムスキル習得におけるスキルの習得レベル").Row().Combo(kIdSkillLevel).Row();
-  L.Text("トレーニング").Row().Combo(kIdTraining).Row();
-  L.EndGroup().Row();
-  L.OkCancel();
-}
-
-void DLG_TESTPLAY::OnInitDialog() {
-  DLG_CLASS::OnInitDialog();
-  m_hWnd->setWindowTitle(QStringLiteral("テストプレイの設定"));
-  Bind(m_vecEditStr);
-  Bind(m_vecCheck);
-  Bind(m_vecCombo);
-  Bind(m_vecButton);
-  UpdateAll();
-  UpdateEnable();
-  m_bReady = 1;
-}
-
-// The path is the user's only while the program is not found by itself.
-void DLG_TESTPLAY::UpdateEnable() {
-  auto* autoFind = GetCtrl<cCheckCtrl>(kIdAutoFind);
-  if (autoFind != nullptr) EnableCtrl(kIdGamePath, !autoFind->Checked());
-}
-
-void DLG_TESTPLAY::OnCommand(unsigned id, unsigned code) {
-  DLG_CLASS::OnCommand(id, code);
-  switch (id) {
-    case kIdOk:
-      ApplyAll();
-      g_TestPlay.SaveFile(kTestPlayPath);
-      End(1);
-      return;
-    case kIdCancel: End(0); return;
-    case kIdBrowse: Browse(); break;
-    default: break;
-  }
-  if (m_bReady && FindChanged(id, code)) UpdateEnable();
+void DLG_TESTPLAY::OnFormCommand(unsigned id, unsigned code) {
+  if (id == kIdBrowse) Browse();
 }
 
 void DLG_TESTPLAY::Browse() {

@@ -6,10 +6,10 @@
 #include <functional>
 #include <string>
 
-#include "toolkit/ctrls.h"
 #include "toolkit/dlg_class.h"
+#include "toolkit/live_instance.h"
 
-class DLG_TESTPLAY : public DLG_CLASS {
+class DLG_TESTPLAY : public DLG_CLASS, public cLiveInstance<DLG_TESTPLAY> {
  public:
   enum : unsigned {
     kIdBrowse = 1371,
@@ -21,29 +21,17 @@ class DLG_TESTPLAY : public DLG_CLASS {
     kIdTraining = 1628,
     kIdRandomSkill = 1659,
   };
-  static constexpr int kTemplateId = 232;
   static constexpr int kGamePathBytes = 261;
 
   explicit DLG_TESTPLAY(QWidget* parent);
-  ~DLG_TESTPLAY() override;
-
-  void UpdateEnable() override;
-  void OnCommand(unsigned id, unsigned code) override;
-
-  VECTOR_CLASS<CTRL_EDITSTR_CLASS> m_vecEditStr;
-  VECTOR_CLASS<CTRL_CHECK_CLASS<int>> m_vecCheck;
-  VECTOR_CLASS<cComboCtrl> m_vecCombo;
-  VECTOR_CLASS<CTRL_BUTTON_CLASS> m_vecButton;
 
  protected:
-  void Layout(cFormLayout& L) override;
-  void OnInitDialog() override;
+  bool OnOk() override;
+  void OnFormCommand(unsigned id, unsigned code) override;
 
  private:
   void Browse();
 };
-
-extern DLG_TESTPLAY* g_pDlgTestPlay;
 
 // The stored form of a chosen program: relative to the current directory, "\" between
 // components, CP932. False, with `stored` untouched, when no such form exists.

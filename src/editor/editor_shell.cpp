@@ -3,9 +3,9 @@
 #include <QApplication>
 #include <QTimer>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "app/idle_frame.h"
-#include "app/main_window_link.h"
+#include "platform/main_window_link.h"
 #include "editor/dlg_battle_mode.h"
 #include "editor/dlg_main.h"
 #include "editor/idle_timer.h"

@@ -5,7 +5,7 @@
 #include <QMenuBar>
 #include <algorithm>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "editor/dlg_main.h"
 #include "editor/dlg_testplay.h"
 #include "editor/map_scroll.h"

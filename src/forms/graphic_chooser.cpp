@@ -37,29 +37,19 @@ int GraphicValueAt(int kind, int px, int py) {
   }
 }
 
-cGraphicSheetView::~cGraphicSheetView() {
-  // The widget calls back into this object; it must not outlive it.
-  delete m_hWnd.data();
-}
-
 void cGraphicSheetView::OnPaint() { m_Form.Draw(m_Back); }
 void cGraphicSheetView::OnMouseMove(int x, int y) { m_Form.OnMouseMove(x, y); }
 void cGraphicSheetView::OnLButtonDown(int x, int y) { m_Form.OnLButtonDown(x, y); }
 
 DLG_SELECTGRAPHIC::DLG_SELECTGRAPHIC(int kind, int* pValue, QWidget* owner)
-    : DLG_CLASS(kTemplateId, owner), m_nKind(kind), m_pValue(pValue) {
+    : DLG_CLASS(owner, "一覧"), m_nKind(kind), m_pValue(pValue) {
   const cGraphicKind& k = Kind();
   SetMetrics(k.nWidth, k.nHeight, k.nWidth, k.nHeight, k.nWidth, k.nHeight);
-}
-
-void DLG_SELECTGRAPHIC::OnInitDialog() {
-  DLG_CLASS::OnInitDialog();
-  m_hWnd->setWindowTitle(QString::fromUtf8("一覧"));
-  const cGraphicKind& k = Kind();
-  m_View.CreateView(m_hWnd, k.nWidth, k.nHeight);
-  m_View.m_hWnd->move(0, 0);
-  m_View.m_hWnd->show();
-  m_bReady = 1;
+  Table().NoMargins().View(kIdSheet, "一覧", [this](QWidget* parent) {
+    m_View.CreateView(parent, Kind().nWidth, Kind().nHeight);
+    m_View.m_hWnd->setFixedSize(Kind().nWidth, Kind().nHeight);
+    return m_View.m_hWnd.data();
+  });
 }
 
 void DLG_SELECTGRAPHIC::Draw(cSurface& back) const {

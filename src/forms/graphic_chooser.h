@@ -5,6 +5,7 @@
 #include <QPoint>
 
 #include "toolkit/dlg_class.h"
+#include "toolkit/view_class.h"
 
 // One kind of picture: its sheet in g_aSheet, the client size that shows the sheet
 // and the size of a cell.
@@ -28,7 +29,6 @@ class DLG_SELECTGRAPHIC;
 class cGraphicSheetView : public VIEW_CLASS {
  public:
   explicit cGraphicSheetView(DLG_SELECTGRAPHIC& form) : m_Form(form) {}
-  ~cGraphicSheetView() override;
   void OnPaint() override;
   void OnMouseMove(int x, int y) override;
   void OnLButtonDown(int x, int y) override;
@@ -39,7 +39,7 @@ class cGraphicSheetView : public VIEW_CLASS {
 
 class DLG_SELECTGRAPHIC : public DLG_CLASS {
  public:
-  static constexpr int kTemplateId = 213;
+  enum : unsigned { kIdSheet = 1400 };
   // `kind` must be one GraphicKindOf knows.
   DLG_SELECTGRAPHIC(int kind, int* pValue, QWidget* owner);
 
@@ -53,9 +53,6 @@ class DLG_SELECTGRAPHIC : public DLG_CLASS {
   int m_nValue = -1;              // under the mouse; -1 before the mouse came in
   QPoint m_ptMouse{-1000, -1000};  // client co-ordinates
   cGraphicSheetView m_View{*this};
-
- protected:
-  void OnInitDialog() override;
 
  private:
   const cGraphicKind& Kind() const { return *GraphicKindOf(m_nKind); }

@@ -3,38 +3,23 @@
 #include <QLineEdit>
 
 #include "platform/cp932.h"
-#include "toolkit/form_layout.h"
 
-cInputForm::cInputForm(int templateId, QWidget* parent, const std::string& title, QWidget* placeCtrl,
-                       bool bCenter)
-    : DLG_CLASS(templateId, parent, placeCtrl, bCenter), m_strTitle(title) {}
+cInputForm::cInputForm(QWidget* parent, const std::string& title, QWidget* placeCtrl, bool bCenter)
+    : DLG_CLASS(parent, "", placeCtrl, bCenter) {
+  SetTitle(Cp932ToUtf8Lossy(title));
+}
 
-void cInputForm::OnInitDialog() {
-  DLG_CLASS::OnInitDialog();
-  m_hWnd->setWindowTitle(QString::fromStdString(Cp932ToUtf8Lossy(m_strTitle)));
-  BindInput();
-  UpdateAll();
+void cInputForm::OnReady() {
   if (auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(kIdInput))) {
     edit->setFocus();
     edit->selectAll();  // the first key typed replaces the contents
   }
-  m_bReady = 1;
 }
 
-void cInputForm::OnCommand(unsigned id, unsigned code) {
-  DLG_CLASS::OnCommand(id, code);
-  EndOnOkCancel(id);
-}
-
-DLG_INPUT::DLG_INPUT(QWidget* parent, int* pValue, int nMin, int nMax, const std::string& title,
-                     QWidget* placeCtrl, bool bCenter)
-    : cInputForm(kTemplateId, parent, title, placeCtrl, bCenter) {
-  Declare(m_vecEditInt, {{kIdInput, pValue, nMin, nMax, kIdInputSpin, 1}});
-}
-
-void DLG_INPUT::Layout(cFormLayout& L) {
-  L.EditVal(kIdInput, kIdInputSpin).Row();
-  L.OkCancel();
+DLG_INPUT::DLG_INPUT(QWidget* parent, int* pValue, int nMin, int nMax, const std::string& title, QWidget* placeCtrl,
+                     bool bCenter)
+    : cInputForm(parent, title, placeCtrl, bCenter) {
+  Table().EditVal(kIdInput, "", pValue, nMin, nMax, 1, kIdInputSpin).Row().OkCancel();
 }
 
 // A wide field keeps to `limit` characters through its line length. A narrow one has
@@ -42,18 +27,12 @@ void DLG_INPUT::Layout(cFormLayout& L) {
 // is the field's size and the text gets no byte more than the caller allows.
 DLG_INPUT_STR::DLG_INPUT_STR(QWidget* parent, std::string* pStr, int limit, bool bWide, const std::string& title,
                              QWidget* placeCtrl, bool bCenter)
-    : cInputForm(kTemplateId, parent, title, placeCtrl, bCenter) {
-  Declare(m_vecEditStr, {{.nId = kIdInput,
-                          .pStr = pStr,
-                          .nLimit = bWide ? limit + 1 : limit,
-                          .nLineLen = bWide ? limit : 0,
-                          .nMaxLines = 1,
-                          .bWide = bWide ? 1 : 0}});
-}
-
-void DLG_INPUT_STR::Layout(cFormLayout& L) {
-  L.EditStr(kIdInput).Row();
-  L.OkCancel();
+    : cInputForm(parent, title, placeCtrl, bCenter) {
+  Table()
+      .EditStr(kIdInput, "", pStr,
+               {.nLimit = bWide ? limit + 1 : limit, .nLineLen = bWide ? limit : 0, .nMaxLines = 1, .bWide = bWide ? 1 : 0})
+      .Row()
+      .OkCancel();
 }
 
 namespace {

@@ -5,48 +5,30 @@
 
 #include <string>
 
-#include "toolkit/ctrls.h"
 #include "toolkit/dlg_class.h"
 
-// What the two forms share: the title, the one edit 1077 selected when the form opens
-// so that typing replaces it, and OK and Cancel.
+// What the two forms share: the title (CP932), the one edit 1077, selected when the
+// form opens so that typing replaces it, and OK and Cancel.
 class cInputForm : public DLG_CLASS {
  public:
   enum : unsigned { kIdInput = 1077, kIdInputSpin = 1078 };
-
-  cInputForm(int templateId, QWidget* parent, const std::string& title, QWidget* placeCtrl, bool bCenter);
-  void OnCommand(unsigned id, unsigned code) override;
+  cInputForm(QWidget* parent, const std::string& title, QWidget* placeCtrl, bool bCenter);
 
  protected:
-  void OnInitDialog() override;
-  virtual void BindInput() = 0;
-
-  std::string m_strTitle;  // CP932
+  void OnReady() override;
 };
 
 class DLG_INPUT : public cInputForm {
  public:
-  static constexpr int kTemplateId = 122;
   DLG_INPUT(QWidget* parent, int* pValue, int nMin, int nMax, const std::string& title, QWidget* placeCtrl,
             bool bCenter);
-  VECTOR_CLASS<CTRL_EDITVAL_CLASS<int>> m_vecEditInt;
-
- protected:
-  void Layout(cFormLayout& L) override;
-  void BindInput() override { Bind(m_vecEditInt); }
 };
 
 class DLG_INPUT_STR : public cInputForm {
  public:
-  static constexpr int kTemplateId = 164;
   // `limit` counts characters as the game sees them with `bWide`, else bytes.
   DLG_INPUT_STR(QWidget* parent, std::string* pStr, int limit, bool bWide, const std::string& title,
                 QWidget* placeCtrl, bool bCenter);
-  VECTOR_CLASS<CTRL_EDITSTR_CLASS> m_vecEditStr;
-
- protected:
-  void Layout(cFormLayout& L) override;
-  void BindInput() override { Bind(m_vecEditStr); }
 };
 
 // Run the forms modally over `parent` (or the owner's window); 1 on OK, when the field

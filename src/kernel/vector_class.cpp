@@ -1,7 +1,7 @@
 #include "kernel/vector_class.h"
 
-#include "app/diagnostics.h"
-#include "app/main_window_link.h"
+#include "platform/diagnostics.h"
+#include "platform/main_window_link.h"
 
 void ReportBadVectorIndex(long long index, std::size_t size, std::size_t elementSize) {
   int needed = 0;

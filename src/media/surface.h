@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "media/sheet_desc.h"
 
 // The transparent colour of masked sheets, set once per project load before the first

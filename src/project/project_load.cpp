@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "kernel/record_vector_file.h"
 #include "platform/cp932.h"
 #include "project/project_files.h"

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "platform/cp932.h"
 #include "platform/stored_path.h"
 

@@ -5,7 +5,7 @@
 #include <cstring>
 #include <vector>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "platform/cp932.h"
 #include "project/project_globals.h"
 

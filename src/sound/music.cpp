@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "platform/cp932.h"
 #include "platform/stored_path.h"
 

@@ -6,7 +6,7 @@
 #include <queue>
 #include <vector>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "platform/cp932.h"
 #include "platform/file_io.h"
 #include "platform/stored_path.h"

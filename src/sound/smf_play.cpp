@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "platform/cp932.h"
 #include "platform/stored_path.h"
 #include "sound/music.h"

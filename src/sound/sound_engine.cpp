@@ -3,7 +3,7 @@
 #include <mutex>
 #include <string>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "sound/sdl_audio.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "platform/cp932.h"
 #include "platform/stored_path.h"
 #include "project/project_globals.h"

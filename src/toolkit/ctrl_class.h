@@ -1,17 +1,14 @@
 #pragma once
 // CTRL_CLASS, the base of the typed controls: one control of a form tied to one field
-// of the form's working copy. The form declares each control's init record in its
-// constructor; binding finds the widget by id; Update moves the field to the screen
-// and Apply the screen to the field. The rules of each type live in the display-free
+// of the form's working copy. The form's control table (toolkit/form_table.h) makes
+// each control with its init record; binding finds the widget by id; Update moves the
+// field to the screen and Apply the screen to the field. The rules of each type live in the display-free
 // *_rules.h files; these classes only carry values between them and the widgets.
 
 #include <QPointer>
-#include <QRect>
 #include <QWidget>
 #include <cstdint>
-#include <initializer_list>
 
-#include "kernel/vector_class.h"
 #include "toolkit/ctrl_types.h"
 
 class DLG_CLASS;
@@ -21,6 +18,9 @@ class CTRL_CLASS {
   explicit CTRL_CLASS(int type) : m_nCtrlType(type) {}
   virtual ~CTRL_CLASS() = default;
 
+  // Finds the widget of the init record's id in `owner` and takes it over. False, after
+  // the report, when the form has none of that id and kind.
+  virtual bool Bind(DLG_CLASS* owner) { return false; }
   virtual void Enable(bool bEnable);
   virtual void Update() {}
   virtual void Apply() {}
@@ -33,6 +33,9 @@ class CTRL_CLASS {
   virtual void OnKillFocus() {}
   // A key in a modal form (a virtual key code) with the state of Control.
   virtual void OnKey(int key, bool bCtrl) {}
+  // The value the control shows now, as the enabling rules read it: a check's state, a
+  // combo's value, a number box's number; 0 for controls that hold none.
+  virtual int ScreenValue() { return 0; }
 
   // Common binding: the owner, the widget of `id` and its place in the form. False,
   // after the report "コントロールID 【%u】 が見つかりません！", when the form has no
@@ -44,7 +47,6 @@ class CTRL_CLASS {
   DLG_CLASS* m_pOwner = nullptr;
   int m_nCtrlType;
   std::uint16_t m_nId = 0;
-  QRect m_rcPlace;      // the widget's rectangle in the form, at binding
   bool m_bBusy = false;  // the control rewrites its own text
 
  protected:
@@ -62,15 +64,4 @@ T* CTRL_CLASS::BindWidget(DLG_CLASS* owner, unsigned id) {
     m_hWnd = nullptr;
   }
   return typed;
-}
-
-// Fills a form's control vector from init records, one element per record. The vector
-// is sized here and never changes size afterwards: the form's control list points into
-// it.
-template <class C>
-void Declare(VECTOR_CLASS<C>& ctrls, std::initializer_list<typename C::InitType> inits) {
-  ctrls.clear();
-  ctrls.resize(inits.size());
-  std::size_t i = 0;
-  for (const auto& init : inits) ctrls[i++].m_Init = init;
 }

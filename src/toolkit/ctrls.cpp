@@ -31,7 +31,6 @@ QWidget* CTRL_CLASS::FindWidget(DLG_CLASS* owner, unsigned id) {
     ReportMissing(id);
     return nullptr;
   }
-  m_rcPlace = m_hWnd->geometry();
   return m_hWnd;
 }
 
@@ -83,11 +82,11 @@ void WriteEditBox(QWidget* w, const cEditBox& box) {
 
 // --- number edit and spin ---
 
-bool CTRL_SPIN_CLASS::Bind(DLG_CLASS* owner, unsigned id) { return BindWidget<cSpinButtons>(owner, id) != nullptr; }
+bool CTRL_SPIN_CLASS::BindSpin(DLG_CLASS* owner, unsigned id) { return BindWidget<cSpinButtons>(owner, id) != nullptr; }
 
 bool cEditValCtrl::BindBox(DLG_CLASS* owner, unsigned id, unsigned spinId) {
   if (BindWidget<cNumberEdit>(owner, id) == nullptr) return false;
-  if (spinId != 0) m_Spin.Bind(owner, spinId);
+  if (spinId != 0) m_Spin.BindSpin(owner, spinId);
   return true;
 }
 
@@ -129,15 +128,17 @@ int cEditValCtrl::OnNotify(unsigned id, int delta) {
 
 // --- check ---
 
-bool cCheckCtrl::BindCheck(DLG_CLASS* owner, unsigned id) { return BindWidget<QAbstractButton>(owner, id) != nullptr; }
+bool BindCheckWidget(CTRL_CLASS& ctrl, DLG_CLASS* owner, unsigned id) {
+  return ctrl.BindWidget<QAbstractButton>(owner, id) != nullptr;
+}
 
-bool cCheckCtrl::Checked() const {
-  const auto* b = dynamic_cast<const QAbstractButton*>(m_hWnd.data());
+bool CheckWidgetChecked(const QWidget* w) {
+  const auto* b = dynamic_cast<const QAbstractButton*>(w);
   return b != nullptr && b->isChecked();
 }
 
-void cCheckCtrl::SetChecked(bool on) {
-  if (auto* b = dynamic_cast<QAbstractButton*>(m_hWnd.data())) {
+void SetCheckWidget(QWidget* w, bool on) {
+  if (auto* b = dynamic_cast<QAbstractButton*>(w)) {
     const QSignalBlocker block(b);
     b->setChecked(on);
   }
@@ -145,19 +146,19 @@ void cCheckCtrl::SetChecked(bool on) {
 
 // --- combo ---
 
-bool cComboCtrl::Bind(DLG_CLASS* owner) {
+bool CTRL_COMBO_CLASS<int>::Bind(DLG_CLASS* owner) {
   if (BindWidget<QComboBox>(owner, m_Init.nId) == nullptr) return false;
   m_Rules.Bind(m_Init);
   Fill(-1);  // the selection comes with UpdateAll
   return true;
 }
 
-int cComboCtrl::CurRow() const {
+int CTRL_COMBO_CLASS<int>::CurRow() const {
   const auto* c = dynamic_cast<const QComboBox*>(m_hWnd.data());
   return c != nullptr ? c->currentIndex() : -1;
 }
 
-void cComboCtrl::Fill(int row) {
+void CTRL_COMBO_CLASS<int>::Fill(int row) {
   auto* c = dynamic_cast<QComboBox*>(m_hWnd.data());
   if (c == nullptr) return;
   const QSignalBlocker block(c);
@@ -166,22 +167,22 @@ void cComboCtrl::Fill(int row) {
   c->setCurrentIndex(row);
 }
 
-void cComboCtrl::Update() {
+void CTRL_COMBO_CLASS<int>::Update() {
   if (auto* c = dynamic_cast<QComboBox*>(m_hWnd.data())) {
     const QSignalBlocker block(c);
     c->setCurrentIndex(m_Rules.Update());
   }
 }
 
-void cComboCtrl::Apply() { m_Rules.Apply(CurRow(), OwnerUpdating()); }
+void CTRL_COMBO_CLASS<int>::Apply() { m_Rules.Apply(CurRow(), OwnerUpdating()); }
 
-int cComboCtrl::GetValue() const { return m_Rules.ValueOfRow(CurRow()); }
+int CTRL_COMBO_CLASS<int>::GetValue() const { return m_Rules.ValueOfRow(CurRow()); }
 
-void cComboCtrl::SetLabels(const char* const* labels, const VECTOR_CLASS<int>* pValues) {
+void CTRL_COMBO_CLASS<int>::SetLabels(const char* const* labels, const VECTOR_CLASS<int>* pValues) {
   Fill(m_Rules.SetLabels(labels, pValues, CurRow()));
 }
 
-void cComboCtrl::SetLabels(const VECTOR_CLASS<std::string>& labels, const VECTOR_CLASS<int>* pValues) {
+void CTRL_COMBO_CLASS<int>::SetLabels(const VECTOR_CLASS<std::string>& labels, const VECTOR_CLASS<int>* pValues) {
   Fill(m_Rules.SetLabels(labels, pValues, CurRow()));
 }
 
@@ -258,7 +259,7 @@ void CTRL_PICTURE_CLASS::Redraw() {
 
 // --- scroll bar ---
 
-void CTRL_SCROLL_CLASS::Bind(DLG_CLASS* owner, QScrollBar* bar) {
+void CTRL_SCROLL_CLASS::BindBar(DLG_CLASS* owner, QScrollBar* bar) {
   m_pOwner = owner;
   m_hWnd = bar;
 }

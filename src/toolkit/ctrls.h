@@ -1,12 +1,11 @@
 #pragma once
 // The typed controls of a form: number edit (with its spin), check, combo, slider (with
 // its mirroring number edit), label, button, picture, scroll bar and text edit. Each
-// holds its init record in m_Init, which the form fills in its constructor (see
-// Declare in ctrl_class.h), and binds in the form's OnInitDialog.
+// holds its init record in m_Init, which the form's control table fills (see
+// toolkit/form_table.h), and binds in the form's OnInitDialog.
 
 #include <QPointer>
 #include <string>
-#include <type_traits>
 
 #include "media/surface.h"
 #include "toolkit/combo_rules.h"
@@ -27,7 +26,7 @@ void WriteEditBox(QWidget* w, const cEditBox& box);
 class CTRL_SPIN_CLASS : public CTRL_CLASS {
  public:
   CTRL_SPIN_CLASS() : CTRL_CLASS(kCtrlSpin) {}
-  bool Bind(DLG_CLASS* owner, unsigned id);
+  bool BindSpin(DLG_CLASS* owner, unsigned id);
 };
 
 // The number edit apart from the field's type.
@@ -53,7 +52,7 @@ class CTRL_EDITVAL_CLASS : public cEditValCtrl {
  public:
   using InitType = cEditValInit<T>;
 
-  bool Bind(DLG_CLASS* owner) {
+  bool Bind(DLG_CLASS* owner) override {
     if (!BindBox(owner, m_Init.nId, m_Init.nSpinId)) return false;
     cEditBox box = Box();
     m_Rules.Bind(m_Init, box);
@@ -67,6 +66,7 @@ class CTRL_EDITVAL_CLASS : public cEditValCtrl {
   }
   void Apply() override { m_Rules.Apply(Box(), OwnerUpdating()); }
   T GetValue() { return m_Rules.Value(Box()); }
+  int ScreenValue() override { return static_cast<int>(GetValue()); }
   void SetValue(T v, bool bForce) {
     cEditBox box = Box();
     m_Rules.SetValue(static_cast<double>(v), bForce, box);
@@ -86,33 +86,40 @@ struct cCheckInit {
   T* pData = nullptr;
 };
 
-class cCheckCtrl : public CTRL_CLASS {
- public:
-  cCheckCtrl() : CTRL_CLASS(kCtrlCheck) {}
-  bool BindCheck(DLG_CLASS* owner, unsigned id);
-  bool Checked() const;
-  void SetChecked(bool b);
-};
+// The state of a check box widget; a widget of another kind reads as off.
+bool CheckWidgetChecked(const QWidget* w);
+void SetCheckWidget(QWidget* w, bool on);
+bool BindCheckWidget(CTRL_CLASS& ctrl, DLG_CLASS* owner, unsigned id);
 
 template <class T>
-class CTRL_CHECK_CLASS : public cCheckCtrl {
+class CTRL_CHECK_CLASS : public CTRL_CLASS {
  public:
   using InitType = cCheckInit<T>;
-  bool Bind(DLG_CLASS* owner) { return BindCheck(owner, m_Init.nId); }
-  void Update() override { SetChecked(*m_Init.pData != 0); }
+  CTRL_CHECK_CLASS() : CTRL_CLASS(kCtrlCheck) {}
+  bool Bind(DLG_CLASS* owner) override { return BindCheckWidget(*this, owner, m_Init.nId); }
+  void Update() override { SetCheckWidget(m_hWnd, *m_Init.pData != 0); }
   void Apply() override {
     if (!OwnerUpdating()) *m_Init.pData = static_cast<T>(Checked() ? 1 : 0);
   }
+  int ScreenValue() override { return Checked() ? 1 : 0; }
+  bool Checked() const { return CheckWidgetChecked(m_hWnd); }
+  void SetChecked(bool on) { SetCheckWidget(m_hWnd, on); }
   InitType m_Init;
 };
 
-class cComboCtrl : public CTRL_CLASS {
+// The combo box; its field is an int.
+template <class T = int>
+class CTRL_COMBO_CLASS;
+
+template <>
+class CTRL_COMBO_CLASS<int> : public CTRL_CLASS {
  public:
   using InitType = cComboInit;
-  cComboCtrl() : CTRL_CLASS(kCtrlCombo) {}
-  bool Bind(DLG_CLASS* owner);
+  CTRL_COMBO_CLASS() : CTRL_CLASS(kCtrlCombo) {}
+  bool Bind(DLG_CLASS* owner) override;
   void Update() override;
   void Apply() override;
+  int ScreenValue() override { return GetValue(); }
   // The value of the selected row; -1 when nothing fits.
   int GetValue() const;
   // Replaces the rows, keeping the value where it can.
@@ -125,12 +132,6 @@ class cComboCtrl : public CTRL_CLASS {
  private:
   int CurRow() const;
   void Fill(int row);
-};
-
-// Combos store ints.
-template <class T>
-class CTRL_COMBO_CLASS : public cComboCtrl {
-  static_assert(std::is_same_v<T, int>, "a combo stores an int");
 };
 
 // The slider apart from the field's type.
@@ -152,7 +153,7 @@ template <class T>
 class CTRL_SLIDER_CLASS : public cSliderCtrl {
  public:
   using InitType = cSliderInit<T>;
-  bool Bind(DLG_CLASS* owner) {
+  bool Bind(DLG_CLASS* owner) override {
     if (!BindSlider(owner, m_Init.nId, m_Init.nEditId, {SliderRangeValue(m_Init.nMin), SliderRangeValue(m_Init.nMax)},
                     static_cast<int>(m_Init.nPage), static_cast<int>(m_Init.nStep)))
       return false;
@@ -167,6 +168,7 @@ class CTRL_SLIDER_CLASS : public cSliderCtrl {
     Show(m_Rules.Position(), mirror);
   }
   void Apply() override { m_Rules.Apply(OwnerUpdating()); }
+  int ScreenValue() override { return m_Rules.Position(); }
 
   InitType m_Init;
   cSliderRules<T> m_Rules;
@@ -183,7 +185,7 @@ class CTRL_LABEL_CLASS : public CTRL_CLASS {
  public:
   using InitType = cIdInit;
   CTRL_LABEL_CLASS() : CTRL_CLASS(kCtrlLabel) {}
-  bool Bind(DLG_CLASS* owner);
+  bool Bind(DLG_CLASS* owner) override;
   // CP932 text.
   void SetText(const std::string& text);
   InitType m_Init;
@@ -194,7 +196,7 @@ class CTRL_BUTTON_CLASS : public CTRL_CLASS {
  public:
   using InitType = cIdInit;
   CTRL_BUTTON_CLASS() : CTRL_CLASS(kCtrlButton) {}
-  bool Bind(DLG_CLASS* owner);
+  bool Bind(DLG_CLASS* owner) override;
   InitType m_Init;
 };
 
@@ -209,7 +211,7 @@ class CTRL_PICTURE_CLASS : public CTRL_CLASS {
  public:
   using InitType = cPictureInit;
   CTRL_PICTURE_CLASS() : CTRL_CLASS(kCtrlPicture) {}
-  bool Bind(DLG_CLASS* owner);
+  bool Bind(DLG_CLASS* owner) override;
   void Redraw();
   InitType m_Init;
   cSurface m_Surface;
@@ -219,7 +221,7 @@ class CTRL_PICTURE_CLASS : public CTRL_CLASS {
 class CTRL_SCROLL_CLASS : public CTRL_CLASS {
  public:
   CTRL_SCROLL_CLASS() : CTRL_CLASS(kCtrlScroll) {}
-  void Bind(DLG_CLASS* owner, QScrollBar* bar);
+  void BindBar(DLG_CLASS* owner, QScrollBar* bar);
   int GetPos() const;
   void SetPos(int n);
   int AddPos(int n);
@@ -234,7 +236,7 @@ class CTRL_EDITSTR_CLASS : public CTRL_CLASS {
  public:
   using InitType = cEditStrInit;
   CTRL_EDITSTR_CLASS() : CTRL_CLASS(kCtrlEditStr) {}
-  bool Bind(DLG_CLASS* owner);
+  bool Bind(DLG_CLASS* owner) override;
   void Update() override;
   void Apply() override;
   void OnChange() override;

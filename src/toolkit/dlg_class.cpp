@@ -1,4 +1,5 @@
 #include "toolkit/dlg_class.h"
+#include "toolkit/prop_class.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -12,7 +13,7 @@
 #include <QVBoxLayout>
 #include <optional>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "platform/cp932.h"
 #include "toolkit/ctrls.h"
 #include "toolkit/form_layout.h"
@@ -111,30 +112,14 @@ class cDlgWindow : public QDialog {
       m_pForm->m_nY = y();
     }
   }
-  void mousePressEvent(QMouseEvent* e) override { Mouse(e, true); }
-  void mouseReleaseEvent(QMouseEvent* e) override { Mouse(e, false); }
-  void mouseDoubleClickEvent(QMouseEvent* e) override {
-    const QPoint p = e->position().toPoint();
-    if (e->button() == Qt::LeftButton) m_pForm->OnLButtonDblClk(p.x(), p.y());
-    if (e->button() == Qt::RightButton) m_pForm->OnRButtonDblClk(p.x(), p.y());
-  }
-  void mouseMoveEvent(QMouseEvent* e) override {
-    const QPoint p = e->position().toPoint();
-    m_pForm->m_Mouse.x = p.x();
-    m_pForm->m_Mouse.y = p.y();
-    m_pForm->OnMouseMove(p.x(), p.y());
-  }
+  void mousePressEvent(QMouseEvent* e) override { Mouse(e); }
+  void mouseReleaseEvent(QMouseEvent* e) override { Mouse(e); }
+  void mouseDoubleClickEvent(QMouseEvent* e) override { Mouse(e); }
+  void mouseMoveEvent(QMouseEvent* e) override { Mouse(e); }
 
  private:
-  void Mouse(QMouseEvent* e, bool down) {
-    const QPoint p = e->position().toPoint();
-    cMouseState& m = m_pForm->m_Mouse;
-    m.x = p.x();
-    m.y = p.y();
-    m.left = e->buttons() & Qt::LeftButton;
-    m.right = e->buttons() & Qt::RightButton;
-    if (e->button() == Qt::LeftButton) down ? m_pForm->OnLButtonDown(p.x(), p.y()) : m_pForm->OnLButtonUp(p.x(), p.y());
-    if (e->button() == Qt::RightButton) down ? m_pForm->OnRButtonDown(p.x(), p.y()) : m_pForm->OnRButtonUp(p.x(), p.y());
+  void Mouse(QMouseEvent* e) {
+    if (m_pForm != nullptr) DispatchMouse(*m_pForm, e);
   }
 };
 
@@ -142,12 +127,11 @@ DLG_CLASS* DLG_CLASS::FromWidget(QObject* w) { return FormOf(w); }
 
 void ReportMissingCtrl(unsigned id) { MSP(CP932_TEXT("コントロールID 【%u】 が見つかりません！").c_str(), id); }
 
-DLG_CLASS::DLG_CLASS(int templateId, QWidget* parent, int type) : WND_CLASS(type), m_nTemplateId(templateId) {
+DLG_CLASS::DLG_CLASS(QWidget* parent, const char* title, int type) : WND_CLASS(type), m_strTitle(title) {
   m_hParent = parent;
 }
 
-DLG_CLASS::DLG_CLASS(int templateId, QWidget* parent, QWidget* placeCtrl, bool center)
-    : DLG_CLASS(templateId, parent) {
+DLG_CLASS::DLG_CLASS(QWidget* parent, const char* title, QWidget* placeCtrl, bool center) : DLG_CLASS(parent, title) {
   m_pPlaceCtrl = placeCtrl;
   m_bCenter = center;
 }
@@ -189,7 +173,7 @@ bool DLG_CLASS::BuildWindow(bool modeless) {
   sink->setFocusPolicy(Qt::StrongFocus);
   RegisterItem(kIdFocusSink, sink);
   cFormLayout layout(*this, content);
-  Layout(layout);
+  m_Table.Layout(layout, m_strTitle);
   if (m_nW > 0 && m_nH > 0) w->resize(m_nW, m_nH);
   else w->adjustSize();
   if (m_nMinW > 0 || m_nMinH > 0) w->setMinimumSize(m_nMinW, m_nMinH);
@@ -207,16 +191,22 @@ void DLG_CLASS::OnInitDialog() {
   if (m_pScrollArea) {
     m_ScrollH = std::make_unique<CTRL_SCROLL_CLASS>();
     m_ScrollV = std::make_unique<CTRL_SCROLL_CLASS>();
-    m_ScrollH->Bind(this, m_pScrollArea->horizontalScrollBar());
-    m_ScrollV->Bind(this, m_pScrollArea->verticalScrollBar());
+    m_ScrollH->BindBar(this, m_pScrollArea->horizontalScrollBar());
+    m_ScrollV->BindBar(this, m_pScrollArea->verticalScrollBar());
     m_pScrollH = m_ScrollH.get();
     m_pScrollV = m_ScrollV.get();
     m_pScrollH->SetPos(0);
     m_pScrollV->SetPos(0);
   }
   if (QWidget* sink = GetDlgItem(kIdFocusSink)) sink->hide();
+  if (!m_strTitle.empty() && m_nType != 2) m_hWnd->setWindowTitle(QString::fromStdString(m_strTitle));
   Place();
   InstallAccelerators();
+  m_Table.Bind(*this);
+  UpdateAll();
+  UpdateEnable();
+  m_bReady = 1;
+  OnReady();
 }
 
 void DLG_CLASS::Place() {
@@ -255,11 +245,11 @@ int DLG_CLASS::DoModal(int flags) {
   SyncLists();
   OnPaint();
   if (auto* dialog = qobject_cast<QDialog*>(window.data()); dialog != nullptr && !m_bEnded) dialog->exec();
+  WindowGone();
   if (window) {
     window->setProperty(kFormProperty, QVariant());
     delete window.data();
   }
-  WindowGone();
   return m_nResult;
 }
 
@@ -298,6 +288,7 @@ void DLG_CLASS::End(int result) {
 }
 
 void DLG_CLASS::WindowGone() {
+  if (m_hWnd) OnDestroy();
   m_hWnd = nullptr;
   m_bReady = 0;
   g_WndList.Remove(this);
@@ -346,7 +337,7 @@ void DLG_CLASS::RedrawLists() {
   SyncLists();
 }
 
-void DLG_CLASS::OnCommand(unsigned id, unsigned code) {
+void DLG_CLASS::RouteCommand(unsigned id, unsigned code) {
   for (CTRL_CLASS* c : m_vecCtrl) {
     if (c->m_nId != id) continue;
     const int t = c->m_nCtrlType;
@@ -361,29 +352,51 @@ void DLG_CLASS::OnCommand(unsigned id, unsigned code) {
   BeginListCommand(lists);
 }
 
-bool DLG_CLASS::EndOnOkCancel(unsigned id) {
+void DLG_CLASS::OnCommand(unsigned id, unsigned code) {
+  RouteCommand(id, code);
   if (id == kIdOk) {
     ApplyAll();
-    End(1);
-    return true;
+    if (OnOk()) End(1);
+    return;
   }
   if (id == kIdCancel) {
     End(0);
-    return true;
+    return;
   }
-  return false;
+  OnFormCommand(id, code);
+  if (m_bEnded) return;  // the form's command closed it
+  FinishCommand(id, code);
 }
 
-void DLG_CLASS::EndListCommand(unsigned id, unsigned code) {
+// The end of every command. A form with lists ends it in the order that keeps the
+// edit record, the rows and the controls agreeing; a plain form reruns its enabling
+// rules on a change of value. A page then tells its sheet.
+void DLG_CLASS::FinishCommand(unsigned id, unsigned code) {
+  const bool changed = m_bReady != 0 && FindChanged(id, code) != 0;
+  if (m_vecListView.empty()) {
+    if (changed) UpdateEnable();
+    if (m_nType == 2) SheetChanged();
+    return;
+  }
   cListCommand cmd;
   cmd.id = id;
   cmd.code = code;
   cmd.ready = m_bReady != 0;
-  cmd.changed = m_bReady != 0 && FindChanged(id, code) != 0;
+  cmd.changed = changed;
   cmd.page = m_nType == 2;
   const std::vector<cListCtrlBase*> lists = Lists();
   ::EndListCommand(lists, cmd, *this);
   SyncLists();
+}
+
+void DLG_CLASS::UpdateEnable() {
+  m_Table.UpdateEnable(*this);
+  OnUpdateEnable();
+}
+
+int DLG_CLASS::Value(unsigned id) {
+  CTRL_CLASS* c = GetCtrl(id);
+  return c != nullptr ? c->ScreenValue() : 0;
 }
 
 void DLG_CLASS::SheetChanged() {

@@ -1,18 +1,17 @@
 #pragma once
-// DLG_CLASS, a dialog with a list of typed controls, and the form pattern on it:
+// DLG_CLASS, a dialog with a table of typed controls, and the form pattern on it:
 //
-//   1. A form holds a working copy of the record it edits and one VECTOR_CLASS per
-//      control type.
-//   2. Its constructor copies the source into the working copy and declares the
-//      controls as data (Declare: id, field of the working copy, range, labels).
-//   3. Layout() builds the widgets from a compact description (form_layout.h).
-//   4. OnInitDialog(): the base, then Bind each vector in the order number edits, text
-//      edits, checks, combos, labels, buttons, then lists; UpdateAll, UpdateEnable,
-//      m_bReady = 1.
-//   5. OnCommand(id, code): the base, then OK (ApplyAll, End(1)), Cancel (End(0)) and
-//      the form's buttons; at the end, when ready and FindChanged, UpdateEnable. A form
-//      with lists ends with EndListCommand instead.
-//   6. The caller constructs the form, runs DoModal and on 1 copies the working copy
+//   1. A form holds a working copy of the record it edits (toolkit/record_form.h).
+//   2. Its constructor declares its controls in Table(), one entry each: id, label,
+//      the field of the working copy, range or labels, place, enabling rule
+//      (toolkit/form_table.h shows a whole form).
+//   3. The window is laid out from the table; OnInitDialog binds the table's controls,
+//      runs UpdateAll and UpdateEnable, sets m_bReady and calls OnReady.
+//   4. OnCommand routes the command to its control, then OK (ApplyAll, OnOk, End(1))
+//      or Cancel (End(0)), or else the form's own OnFormCommand; at the end the
+//      enabling rules run on a change of value, or, in a form with lists, the list
+//      command's end (toolkit/list_command.h).
+//   5. The caller constructs the form, runs DoModal and on 1 copies the working copy
 //      back. Cancel needs no code: nothing reaches the record before OK.
 //
 // Every user action on a widget reaches OnCommand with the code the control type
@@ -28,6 +27,7 @@
 
 #include "media/surface.h"
 #include "toolkit/ctrl_class.h"
+#include "toolkit/form_table.h"
 #include "toolkit/list_command.h"
 #include "toolkit/list_ctrl.h"
 #include "toolkit/wnd_class.h"
@@ -73,10 +73,17 @@ class CTRL_LISTVIEW_CLASS : public CTRL_CLASS {
 
 class DLG_CLASS : public WND_CLASS, public cListCommandHost {
  public:
-  DLG_CLASS(int templateId, QWidget* parent, int type = 1);
+  // `title` is the window's caption, UTF-8.
+  explicit DLG_CLASS(QWidget* parent, const char* title = "", int type = 1);
   // Placed against `placeCtrl` (a form opened from a list passes that list), centred on it with `center`.
-  DLG_CLASS(int templateId, QWidget* parent, QWidget* placeCtrl, bool center);
+  DLG_CLASS(QWidget* parent, const char* title, QWidget* placeCtrl, bool center);
   ~DLG_CLASS() override;
+
+  // The form's controls, declared in its constructor.
+  cFormTable& Table() { return m_Table; }
+  const cFormTable& Table() const { return m_Table; }
+  void SetTitle(const std::string& utf8) { m_strTitle = utf8; }
+  const std::string& Title() const { return m_strTitle; }
 
   // Client size and the limits the user may drag to; zeros leave it to the layout.
   // `scroll` asks for scroll bars (kDlgScrollH, kDlgScrollV).
@@ -97,17 +104,16 @@ class DLG_CLASS : public WND_CLASS, public cListCommandHost {
   unsigned FindChanged(unsigned id, unsigned code) const;
   void RedrawLists();
 
-  // Slot 15: the enabled state of the controls from their present values.
-  void UpdateEnable() override {}
+  // The enabled state of the controls from their present values: the table's rules,
+  // then the form's own OnUpdateEnable.
+  void UpdateEnable() final;
+  // The value a control of the form shows now (CTRL_CLASS::ScreenValue); 0, after the
+  // report, for an id the form has not bound.
+  int Value(unsigned id);
 
-  // Base routing: the control of `id` whose type expects `code` handles it; lists are
-  // held from redrawing until the end of the command.
+  // The one path of a command: the control of `id` whose type expects `code` handles
+  // it; then OK, Cancel or the form's own OnFormCommand; then the end of the command.
   void OnCommand(unsigned id, unsigned code) override;
-  // OK: ApplyAll, End(1); Cancel: End(0). True when `id` was one of them.
-  bool EndOnOkCancel(unsigned id);
-  // The end of a command of a form with lists, in the order that keeps the edit
-  // record, the rows and the controls agreeing.
-  void EndListCommand(unsigned id, unsigned code);
 
   // Spin clicks and slider moves, offered to the controls.
   void Notify(unsigned id, int delta);
@@ -119,9 +125,11 @@ class DLG_CLASS : public WND_CLASS, public cListCommandHost {
   virtual void OnContextMenu(QPoint global);
   // The window's close box and Escape.
   virtual void OnClose() { End(0); }
-  // Pages of a sheet.
+  // Pages of a sheet: the page comes to the front; the sheet applies.
   virtual void OnSetActive() {}
   virtual void OnApply() {}
+  // The window is going, by End or with its sheet.
+  virtual void OnDestroy() {}
   // Tells the sheet of a page that something changed.
   void SheetChanged() override;
 
@@ -136,12 +144,6 @@ class DLG_CLASS : public WND_CLASS, public cListCommandHost {
   C* GetCtrl(unsigned id) const;
   void EnableCtrl(unsigned id, bool bEnable);
 
-  // Binds each control of a vector and appends it to m_vecCtrl.
-  template <class C>
-  void Bind(VECTOR_CLASS<C>& ctrls) {
-    for (C& c : ctrls)
-      if (c.Bind(this)) m_vecCtrl.push_back(&c);
-  }
   // Binds a list with one of the fixed id sets: its keys, its menu and its commands.
   template <class T>
   bool BindList(CTRL_LIST_CLASS<T>& list, const cListInit<T>& init, eListIdSet set = kListFirstFree) {
@@ -149,7 +151,6 @@ class DLG_CLASS : public WND_CLASS, public cListCommandHost {
     return BindListView(list, kListIdSets[set]);
   }
 
-  int m_nTemplateId;
   int m_bModeless = 0;
   int m_nShowFlags = 0;
   int m_nResult = 0;
@@ -161,22 +162,32 @@ class DLG_CLASS : public WND_CLASS, public cListCommandHost {
   CTRL_SCROLL_CLASS* m_pScrollV = nullptr;
 
  protected:
-  // Builds the widgets; called once per window, before OnInitDialog.
-  virtual void Layout(cFormLayout& L) {}
-  // Slot 14. A form calls the base first.
+  // Slot 14: binds the table, fills the screen, runs the enabling rules, then OnReady.
   virtual void OnInitDialog();
+  // What a form adds once its controls are bound and filled: focus, previews.
+  virtual void OnReady() {}
+  // OK after ApplyAll: what the form does with its edits. False keeps it open.
+  virtual bool OnOk() { return true; }
+  // A command that is no control's change, OK or Cancel: the form's buttons and menus.
+  virtual void OnFormCommand(unsigned id, unsigned code) {}
+  // Enabling rules beyond the table's.
+  virtual void OnUpdateEnable() {}
   void ApplyControls() override;
 
  private:
   friend class cDlgWindow;
   friend class cFormLayout;
   bool BuildWindow(bool modeless);
+  void RouteCommand(unsigned id, unsigned code);
+  void FinishCommand(unsigned id, unsigned code);
   void WindowGone();
   void Place();
   void SyncLists();
   std::vector<cListCtrlBase*> Lists() const;
   bool BindListView(cListCtrlBase& list, const cListIdSet& ids);
 
+  cFormTable m_Table;
+  std::string m_strTitle;
   std::map<unsigned, QPointer<QWidget>> m_mapItem;
   std::vector<std::unique_ptr<CTRL_LISTVIEW_CLASS>> m_vecListView;
   std::unique_ptr<CTRL_SCROLL_CLASS> m_ScrollH, m_ScrollV;
@@ -195,6 +206,11 @@ class DLG_CLASS : public WND_CLASS, public cListCommandHost {
 
 void ReportMissingCtrl(unsigned id);
 
+template <class T>
+bool cFormTable::BindListOf(DLG_CLASS& form, CTRL_LIST_CLASS<T>& list, const cListInit<T>& init, eListIdSet set) {
+  return form.BindList(list, init, set);
+}
+
 template <class C>
 C* DLG_CLASS::GetCtrl(unsigned id) const {
   for (CTRL_CLASS* c : m_vecCtrl)
@@ -203,44 +219,3 @@ C* DLG_CLASS::GetCtrl(unsigned id) const {
   ReportMissingCtrl(id);
   return nullptr;
 }
-
-// A plain child window that draws: a back buffer the view paints into in OnPaint,
-// which is then copied to the screen, and the mouse slots of WND_CLASS.
-class VIEW_CLASS : public WND_CLASS {
- public:
-  VIEW_CLASS() : WND_CLASS(0) {}
-  // Makes the widget as a child of `parent` with a client of w x h.
-  bool CreateView(QWidget* parent, int w, int h);
-  virtual void OnCreate() {}
-  // Repaints: OnPaint into the back buffer, then to the screen.
-  void Invalidate();
-  cSurface m_Back;
-};
-
-// A property sheet: tabbed pages with OK, Cancel and Apply. Every sheet is modeless;
-// g_WndList owns it and deletes it after it closes. Pages are DLG_CLASS objects of
-// type 2, owned by the sheet.
-class PROP_CLASS {
- public:
-  PROP_CLASS() = default;
-  virtual ~PROP_CLASS();
-  PROP_CLASS(const PROP_CLASS&) = delete;
-  PROP_CLASS& operator=(const PROP_CLASS&) = delete;
-
-  // Takes the page.
-  void AddPage(DLG_CLASS* page, const char* title);
-  // Opens the sheet and registers it. False when it is open or cannot be made.
-  bool Create(QWidget* parent, const char* caption);
-  // Each page's OnApply, as OK and Apply do.
-  void ApplyPages();
-  void Close();
-  void Changed();
-  DLG_CLASS* CurrentPage() const;
-  bool IsOpen() const { return m_hWnd != nullptr && !m_bClosed; }
-
-  int m_nType = 0;
-  VECTOR_CLASS<DLG_CLASS*> m_vecPage;
-  std::vector<QString> m_vecTitle;
-  QPointer<QWidget> m_hWnd;
-  bool m_bClosed = false;
-};

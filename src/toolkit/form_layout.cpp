@@ -17,11 +17,11 @@ namespace {
 
 QString Utf8(const char* s) { return QString::fromUtf8(s != nullptr ? s : ""); }
 
-// Buttons never act on Enter: a form decides what its keys do.
-QPushButton* MakeButton(const char* text, QWidget* parent) {
+// Enter presses OK where a form has one, as in every dialog; no other button takes it.
+QPushButton* MakeButton(unsigned id, const char* text, QWidget* parent) {
   auto* b = new QPushButton(Utf8(text), parent);
   b->setAutoDefault(false);
-  b->setDefault(false);
+  b->setDefault(id == kIdOk);
   return b;
 }
 
@@ -35,6 +35,12 @@ void Send(QWidget* w, unsigned id, unsigned code) {
 
 cFormLayout::cFormLayout(DLG_CLASS& form, QWidget* parent)
     : m_Form(form), m_pParent(parent), m_pRoot(new QGridLayout(parent)) {}
+
+cFormLayout& cFormLayout::NoMargins() {
+  m_pRoot->setContentsMargins(0, 0, 0, 0);
+  m_pRoot->setSpacing(0);
+  return *this;
+}
 
 QGridLayout* cFormLayout::Grid() const { return m_pGroup != nullptr ? m_pGroup : m_pRoot; }
 
@@ -88,7 +94,7 @@ cFormLayout& cFormLayout::Label(unsigned id, const char* text, int span) {
 }
 
 cFormLayout& cFormLayout::Button(unsigned id, const char* text, int span) {
-  auto* b = MakeButton(text, m_pParent);
+  auto* b = MakeButton(id, text, m_pParent);
   QObject::connect(b, &QPushButton::clicked, b, [b, id] { Send(b, id, kNotifyClicked); });
   return Put(b, id, span);
 }
@@ -163,6 +169,10 @@ cFormLayout& cFormLayout::List(unsigned id, int rows, int span) {
   return Put(l, id, span);
 }
 
+cFormLayout& cFormLayout::Widget(unsigned id, const std::function<QWidget*(QWidget*)>& make, int span) {
+  return Put(make ? make(m_pParent) : nullptr, id, span);
+}
+
 cFormLayout& cFormLayout::OkCancel() {
   EndGroup();
   if (m_nCol != 0) Row();
@@ -171,7 +181,8 @@ cFormLayout& cFormLayout::OkCancel() {
   row->setContentsMargins(0, 0, 0, 0);
   row->addStretch(1);
   for (auto [id, text] : {std::pair<unsigned, const char*>{kIdOk, "OK"}, {kIdCancel, "キャンセル"}}) {
-    auto* b = MakeButton(text, cell);
+    auto* b = MakeButton(id, text, cell);
+    b->setAccessibleName(b->text());
     QObject::connect(b, &QPushButton::clicked, b, [b, id = id] { Send(b, id, kNotifyClicked); });
     m_Form.RegisterItem(id, b);
     row->addWidget(b);

@@ -4,15 +4,11 @@
 // kind of its type and registered under its id, so that the form's binding finds it.
 // Texts are UTF-8; they only go to the screen.
 //
-//   void Layout(cFormLayout& L) override {
-//     L.Group("能力");
-//     L.Text("HP").EditVal(1010, 1011).Row();
-//     L.Check(1020, "毒を受けない", 2).Row();
-//     L.EndGroup();
-//     L.OkCancel();
-//   }
+// Forms do not call it themselves: their control table (toolkit/form_table.h) lays
+// itself out through it.
 
 #include <QString>
+#include <functional>
 
 class DLG_CLASS;
 class QGridLayout;
@@ -23,6 +19,8 @@ class cFormLayout {
   // Builds into `parent` for `form`, whose widget table the controls are put in.
   cFormLayout(DLG_CLASS& form, QWidget* parent);
 
+  // No margin and no spacing around the cells.
+  cFormLayout& NoMargins();
   // The next cell starts a new row.
   cFormLayout& Row();
   // A titled box that takes the rest of the row; its cells are a grid of their own until EndGroup.
@@ -44,6 +42,8 @@ class cFormLayout {
   cFormLayout& Slider(unsigned id, int span = 1);
   cFormLayout& Picture(unsigned id, int width, int height, int span = 1);
   cFormLayout& List(unsigned id, int rows = 8, int span = 1);
+  // A widget of the form's own, made by `make` with the form's content as its parent.
+  cFormLayout& Widget(unsigned id, const std::function<QWidget*(QWidget*)>& make, int span = 1);
   // A row of buttons OK (1006) and Cancel (1007) at the right.
   cFormLayout& OkCancel();
 

@@ -33,7 +33,6 @@ void ListCopyRecord(T& to, const T& from) {
 template <class T>
 struct cListInit {
   std::uint16_t nId = 0;
-  int nMode = 1;  // 1: the rows live in a VECTOR_CLASS; nothing else is supported
   int bMulti = 0;
   VECTOR_CLASS<T>* pSource = nullptr;
   VECTOR_CLASS<T>* pWork = nullptr;
@@ -51,14 +50,14 @@ struct cListInit {
 template <class T>
 class CTRL_LIST_CLASS : public cListCtrlBase {
  public:
-  // 0 for a list that does not stand on a vector: it stays dead.
+  // A list without a working vector stays dead: it takes no rows.
   int Bind(const cListInit<T>& init) {
     m_pSource = init.pSource;
-    m_pWork = init.nMode == 0 ? nullptr : init.pWork;
+    m_pWork = init.pWork;
     m_pEditRec = init.pEditRec;
     m_pfnRowText = init.pfnRowText;
     if (m_pWork != nullptr && m_pSource != nullptr && m_pWork != m_pSource) *m_pWork = *m_pSource;
-    return BindRows({init.nId, init.nMode, init.bMulti, init.bRowNumbers, init.nMinRows, init.nMaxRows,
+    return BindRows({init.nId, init.bMulti, init.bRowNumbers, init.nMinRows, init.nMaxRows,
                      init.nFirstRow, init.bBlankRow, init.bAllowNoSel});
   }
 
@@ -113,8 +112,10 @@ class CTRL_LIST_CLASS : public cListCtrlBase {
   void EditReset() override { ListResetRecord(*m_pEditRec); }
   void ElementTakesEdit(int e) override { ListCopyRecord((*m_pWork)[e], *m_pEditRec); }
   // A dead list (no vector) takes no rows.
-  void InsertDefault(int e) override {
-    if (m_pWork != nullptr) m_pWork->insert(m_pWork->begin() + e, T());
+  bool InsertDefault(int e) override {
+    if (m_pWork == nullptr) return false;
+    m_pWork->insert(m_pWork->begin() + e, T());
+    return true;
   }
   void Erase(int e) override {
     if (m_pWork != nullptr) m_pWork->erase(m_pWork->begin() + e);

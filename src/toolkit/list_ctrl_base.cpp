@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "platform/cp932.h"
 
 const cListIdSet kListIdSets[6] = {
@@ -31,11 +31,6 @@ int cListCtrlBase::RowCount() const { return std::max(0, Size() - m_nFirstRow); 
 
 int cListCtrlBase::BindRows(const cRowsInit& init) {
   m_nId = init.nId;
-  m_nMode = init.nMode;
-  if (m_nMode == 0) {
-    ErrorBox(CP932_TEXT("Listには未対応！！"));
-    return 0;
-  }
   m_bMulti = init.bMulti;
   m_bRowNumbers = init.bRowNumbers;
   m_nMinRows = init.nMinRows;
@@ -209,11 +204,11 @@ int cListCtrlBase::CommitRow() {
 }
 
 int cListCtrlBase::AddRow(int row) {
-  if (AtMax()) {
+  // A list without a vector behind it takes no row.
+  if (AtMax() || !InsertDefault(row + m_nFirstRow)) {
     ListBeep();
     return 0;
   }
-  InsertDefault(row + m_nFirstRow);
   m_nCurSel = row;
   if (HasEditRec()) EditTakes(row + m_nFirstRow);
   if (m_bMulti) {
@@ -282,7 +277,7 @@ int cListCtrlBase::Clear() {
 int cListCtrlBase::Delete(int row, int bOnlySel) {
   if (!m_bMulti) {
     m_nCurSel = row >= 0 ? row : GetSel();
-    if (!IsReal(m_nCurSel) || m_nMode != 1) {
+    if (!IsReal(m_nCurSel)) {
       Redraw();
       RedrawSel();
       return 1;

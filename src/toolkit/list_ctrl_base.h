@@ -125,7 +125,6 @@ class cListCtrlBase {
   int m_nPrevSel = -1;
   VECTOR_CLASS<int> m_vecPrevFlag;
   int m_nTopIndex = 0;
-  int m_nMode = 0;
   int m_bMulti = 0;
   int m_bRowNumbers = 0;
   int m_nMinRows = 0, m_nMaxRows = 0;
@@ -139,7 +138,7 @@ class cListCtrlBase {
  protected:
   struct cRowsInit {
     std::uint16_t nId;
-    int nMode, bMulti, bRowNumbers, nMinRows, nMaxRows, nFirstRow, bBlankRow, bAllowNoSel;
+    int bMulti, bRowNumbers, nMinRows, nMaxRows, nFirstRow, bBlankRow, bAllowNoSel;
   };
   // Binding after the vectors are in place; 0 for a list not on a vector.
   int BindRows(const cRowsInit& init);
@@ -159,7 +158,7 @@ class cListCtrlBase {
   virtual void EditTakesDefault() = 0;
   virtual void EditReset() = 0;
   virtual void ElementTakesEdit(int element) = 0;
-  virtual void InsertDefault(int element) = 0;
+  virtual bool InsertDefault(int element) = 0;
   virtual void Erase(int element) = 0;
   virtual void ResetElement(int element) = 0;
   virtual void ResizeElements(int size) = 0;

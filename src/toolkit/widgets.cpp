@@ -118,10 +118,18 @@ cPictureWidget::cPictureWidget(QWidget* parent) : QWidget(parent) {}
 
 void cPictureWidget::paintEvent(QPaintEvent*) {
   if (surface == nullptr) return;
-  const QImage image = ImageOfSurface(*surface);
-  if (image.isNull()) return;
   QPainter p(this);
-  p.drawImage(0, 0, image);
+  PaintSurface(p, QPoint(0, 0), *surface);
+}
+
+void PaintSurface(QPainter& p, QPoint at, const cSurface& s, double ratio) {
+  QImage image = ImageOfSurface(s);
+  if (image.isNull()) return;
+  image.setDevicePixelRatio(ratio);
+  const double scale = p.device()->devicePixelRatioF() / ratio;
+  const bool whole = scale == static_cast<int>(scale);
+  p.setRenderHint(QPainter::SmoothPixmapTransform, !whole);
+  p.drawImage(at, image);
 }
 
 QImage ImageOfSurface(const cSurface& s) {

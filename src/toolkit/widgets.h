@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QPoint>
 #include <functional>
 
 class cSurface;
@@ -94,7 +95,12 @@ class cPictureWidget : public QWidget {
 
 // A QImage over a surface's pixels (no copy); null for an empty surface or another depth.
 class QImage;
+class QPainter;
 QImage ImageOfSurface(const cSurface& s);
+// The one way a surface reaches the screen: drawn at `at` (logical pixels) with
+// `ratio` of its pixels to a logical pixel. Where the screen's density is a whole
+// multiple of that, every pixel becomes a crisp block; else it is smoothed.
+void PaintSurface(QPainter& p, QPoint at, const cSurface& s, double ratio = 1.0);
 
 // The virtual key code of a Qt key; 0 for keys without one here.
 int VirtualKeyOf(int qtKey);

@@ -4,10 +4,12 @@
 #include <QApplication>
 #include <QCursor>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QShortcut>
 #include <algorithm>
 
 #include "toolkit/dlg_class.h"
+#include "toolkit/prop_class.h"
 
 cWndList g_WndList;
 
@@ -35,6 +37,32 @@ bool cRightClickEdge::Poll(bool rightHeld, bool leftHeld, bool rightReleased, bo
     return true;
   }
   return false;
+}
+
+void DispatchMouse(WND_CLASS& wnd, const QMouseEvent* e) {
+  const QPoint p = e->position().toPoint();
+  cMouseState& m = wnd.m_Mouse;
+  m.x = p.x();
+  m.y = p.y();
+  m.left = e->buttons() & Qt::LeftButton;
+  m.right = e->buttons() & Qt::RightButton;
+  const bool left = e->button() == Qt::LeftButton, right = e->button() == Qt::RightButton;
+  switch (e->type()) {
+    case QEvent::MouseMove: wnd.OnMouseMove(p.x(), p.y()); break;
+    case QEvent::MouseButtonPress:
+      if (left) wnd.OnLButtonDown(p.x(), p.y());
+      if (right) wnd.OnRButtonDown(p.x(), p.y());
+      break;
+    case QEvent::MouseButtonRelease:
+      if (left) wnd.OnLButtonUp(p.x(), p.y());
+      if (right) wnd.OnRButtonUp(p.x(), p.y());
+      break;
+    case QEvent::MouseButtonDblClick:
+      if (left) wnd.OnLButtonDblClk(p.x(), p.y());
+      if (right) wnd.OnRButtonDblClk(p.x(), p.y());
+      break;
+    default: break;
+  }
 }
 
 WND_CLASS::~WND_CLASS() {

@@ -15,6 +15,7 @@
 #include <vector>
 
 class QMenu;
+class QMouseEvent;
 class QShortcut;
 class PROP_CLASS;
 
@@ -90,7 +91,6 @@ class WND_CLASS {
   WND_CLASS* m_pPlaceWnd = nullptr;
   QPointer<QWidget> m_pPlaceCtrl;
   bool m_bCenter = false;
-  std::string m_strLogName;  // names the window in the message log; empty: no log
 
  protected:
   // Accelerator pairs, and the shortcuts made from them while the window exists.
@@ -105,6 +105,11 @@ class WND_CLASS {
  private:
   std::vector<QPointer<QShortcut>> m_vecShortcut;
 };
+
+// The one way the mouse reaches a window: the mouse state first, then the slot of the
+// event (move, press, release, double click of either button). Co-ordinates are the
+// event's, in logical pixels of the widget that received it.
+void DispatchMouse(WND_CLASS& wnd, const QMouseEvent* e);
 
 // The registry of the modeless dialogs and the sheets. A modal dialog is in neither
 // list: it runs its own loop.

@@ -4,7 +4,7 @@
 
 #include "app/edit_config.h"
 #include "app/edit_config_load.h"
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "database/db_test_support.h"
 #include "platform/cp932.h"
 #include "support/test_env.h"

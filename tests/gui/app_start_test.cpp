@@ -120,11 +120,11 @@ TEST_F(AppStartTest, BattleModeDialogSavesTheChosenModeAndTheTurnModeWithIt) {
   ASSERT_EQ(CreateDefaultData(nullptr, bFresh), 1);
   ASSERT_EQ(g_System.LoadFile(kSystemPath), 1);
   QTimer::singleShot(0, [] {
-    auto* combo = qobject_cast<QComboBox*>(g_pDlgBattleMode->GetDlgItem(DLG_BATTLEMODE::kIdMode));
+    auto* combo = qobject_cast<QComboBox*>(DLG_BATTLEMODE::Live()->GetDlgItem(DLG_BATTLEMODE::kIdMode));
     ASSERT_NE(combo, nullptr);
     EXPECT_EQ(combo->count(), 2);
     combo->setCurrentIndex(1);
-    qobject_cast<QPushButton*>(g_pDlgBattleMode->GetDlgItem(1006))->click();
+    qobject_cast<QPushButton*>(DLG_BATTLEMODE::Live()->GetDlgItem(1006))->click();
   });
   EXPECT_EQ(RunBattleModeDialog(), 1);
   cSystem saved;

@@ -8,7 +8,6 @@
 
 #include "toolkit/ctrls.h"
 #include "toolkit/dlg_class.h"
-#include "toolkit/form_layout.h"
 
 namespace {
 
@@ -17,36 +16,24 @@ namespace {
 class DLG_ROWS : public DLG_CLASS {
  public:
   enum : unsigned { kList = 1200, kEdit = 1201, kSlider = 1202, kMirror = 1203, kCombo = 1204 };
-  explicit DLG_ROWS(const VECTOR_CLASS<int>& rows) : DLG_CLASS(902, nullptr), m_vecSource(rows) {
+  explicit DLG_ROWS(const VECTOR_CLASS<int>& rows) : DLG_CLASS(nullptr, "行"), m_vecSource(rows) {
     m_vecValues = {10, 20, 30};
-    Declare(m_vecEdit, {{kEdit, &m_nEdit, 0, 999}});
-    Declare(m_vecSlider, {{kSlider, &m_sLevel, 0, 50, 10, 1, kMirror}});
-    Declare(m_vecCombo, {{kCombo, &m_nChoice, nullptr, &m_vecLabels, 0, &m_vecValues}});
-    m_vecList.resize(1);
-  }
-  void Layout(cFormLayout& L) override {
-    L.List(kList).EditVal(kEdit).Row().Slider(kSlider).EditVal(kMirror).Row().Combo(kCombo);
-  }
-  void OnInitDialog() override {
-    DLG_CLASS::OnInitDialog();
-    Bind(m_vecEdit);
-    Bind(m_vecCombo);
-    Bind(m_vecSlider);
     cListInit<int> init;
-    init.nId = kList;
     init.pSource = &m_vecSource;
     init.pWork = &m_vecWork;
     init.pEditRec = &m_nEdit;
     init.nMinRows = 1;
     init.pfnRowText = [](std::string& out, int, const int& v) { out = std::to_string(v); };
-    BindList(m_vecList[0], init);
-    UpdateAll();
-    m_bReady = 1;
+    Table()
+        .List(kList, "行", m_List, init)
+        .EditVal(kEdit, "値", &m_nEdit, 0, 999)
+        .Row()
+        .Slider<short>(kSlider, "段階", &m_sLevel, 0, 50, 10, 1, kMirror)
+        .Row()
+        .Combo(kCombo, "選択", &m_nChoice, &m_vecLabels, &m_vecValues);
   }
-  void OnCommand(unsigned id, unsigned code) override {
-    DLG_CLASS::OnCommand(id, code);
+  void OnFormCommand(unsigned id, unsigned code) override {
     if (id == kSlider) ++m_nSliderCommands;
-    EndListCommand(id, code);
   }
   QListWidget* List() { return static_cast<QListWidget*>(GetDlgItem(kList)); }
 
@@ -57,10 +44,7 @@ class DLG_ROWS : public DLG_CLASS {
   VECTOR_CLASS<std::string> m_vecLabels{"ten", "twenty", "thirty"};
   VECTOR_CLASS<int> m_vecValues;
   int m_nSliderCommands = 0;
-  VECTOR_CLASS<CTRL_LIST_CLASS<int>> m_vecList;
-  VECTOR_CLASS<CTRL_EDITVAL_CLASS<int>> m_vecEdit;
-  VECTOR_CLASS<CTRL_SLIDER_CLASS<short>> m_vecSlider;
-  VECTOR_CLASS<CTRL_COMBO_CLASS<int>> m_vecCombo;
+  CTRL_LIST_CLASS<int> m_List;
 };
 
 std::vector<std::string> Rows(QListWidget* w) {
@@ -83,7 +67,7 @@ TEST(ListControl, RowsSelectionEditRecordAndCommitAgree) {
   EXPECT_EQ(Rows(form.List()), (std::vector<std::string>{"4", "5", "61"}));
   EXPECT_EQ(form.m_vecSource, (VECTOR_CLASS<int>{4, 5, 6}));
 
-  form.m_vecList[0].Box().focus = true;  // the list's keys act only while it has the focus
+  form.m_List.Box().focus = true;  // the list's keys act only while it has the focus
   form.SendCommand(kListIdSets[kListFirstFree].aKey[kListDelete], kNotifyClicked);
   EXPECT_EQ(Rows(form.List()), (std::vector<std::string>{"4", "5"}));
   EXPECT_EQ(form.List()->currentRow(), 1);
@@ -102,7 +86,7 @@ TEST(Combo, AValueOutsideTheTableShowsNoRowAndShrunkLabelsKeepTheLastRow) {
   form.ApplyAll();
   EXPECT_EQ(form.m_nChoice, -1);
 
-  cComboCtrl& ctrl = form.m_vecCombo[0];
+  auto& ctrl = *form.GetCtrl<CTRL_COMBO_CLASS<int>>(DLG_ROWS::kCombo);
   ctrl.m_Init.pValues = nullptr;  // plain rows: value = row
   ctrl.m_Rules.Bind(ctrl.m_Init);
   form.m_nChoice = 2;

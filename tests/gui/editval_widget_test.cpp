@@ -10,7 +10,6 @@
 #include "platform/cp932.h"
 #include "toolkit/ctrls.h"
 #include "toolkit/dlg_class.h"
-#include "toolkit/form_layout.h"
 #include "toolkit/widgets.h"
 
 namespace {
@@ -18,24 +17,15 @@ namespace {
 class DLG_NUMBERS : public DLG_CLASS {
  public:
   enum : unsigned { kFive = 1100, kSigned = 1101, kByte = 1102, kByteSpin = 1103, kHundredth = 1104 };
-  DLG_NUMBERS() : DLG_CLASS(901, nullptr) {
-    Declare(m_vecInt, {{kFive, &m_nFive, 5, 10}, {kSigned, &m_nSigned, -5, 10}});
-    Declare(m_vecByte, {{kByte, &m_byByte, 0, 255, kByteSpin, 1}});
-    Declare(m_vecDouble, {{kHundredth, &m_dHundredth, 0, 100, 0, 0.01}});
+  DLG_NUMBERS() : DLG_CLASS(nullptr, "数") {
+    Table()
+        .EditVal(kFive, "五から", &m_nFive, 5, 10)
+        .EditVal(kSigned, "負から", &m_nSigned, -5, 10)
+        .Row()
+        .EditVal<unsigned char>(kByte, "バイト", &m_byByte, 0, 255, 1, kByteSpin)
+        .EditVal(kHundredth, "百分の一", &m_dHundredth, 0.0, 100.0, 0.01);
   }
-  void Layout(cFormLayout& L) override {
-    L.EditVal(kFive).EditVal(kSigned).Row().EditVal(kByte, kByteSpin).EditVal(kHundredth);
-  }
-  void OnInitDialog() override {
-    DLG_CLASS::OnInitDialog();
-    Bind(m_vecInt);
-    Bind(m_vecByte);
-    Bind(m_vecDouble);
-    UpdateAll();
-    m_bReady = 1;
-  }
-  void OnCommand(unsigned id, unsigned code) override {
-    DLG_CLASS::OnCommand(id, code);
+  void OnFormCommand(unsigned id, unsigned code) override {
     if (code == kNotifyEditUpdate) ++m_nUpdates;
   }
   QLineEdit* Edit(unsigned id) { return static_cast<QLineEdit*>(GetDlgItem(id)); }
@@ -44,9 +34,6 @@ class DLG_NUMBERS : public DLG_CLASS {
   unsigned char m_byByte = 9;
   double m_dHundredth = 0;
   int m_nUpdates = 0;
-  VECTOR_CLASS<CTRL_EDITVAL_CLASS<int>> m_vecInt;
-  VECTOR_CLASS<CTRL_EDITVAL_CLASS<unsigned char>> m_vecByte;
-  VECTOR_CLASS<CTRL_EDITVAL_CLASS<double>> m_vecDouble;
 };
 
 class NumberEdit : public ::testing::Test {

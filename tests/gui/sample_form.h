@@ -1,76 +1,44 @@
 #pragma once
 // A small form over a skill, written as every form of the editor is: the working copy,
-// the controls declared as data, the layout, the binding and the command handling.
+// the controls declared in one table, an enabling rule and a button of its own.
 
 #include <functional>
 
 #include "database/skill.h"
-#include "toolkit/ctrls.h"
-#include "toolkit/dlg_class.h"
-#include "toolkit/form_layout.h"
+#include "toolkit/record_form.h"
 
 inline const char* const kSampleKinds[] = {"攻撃", "回復", "補助", ""};
 
-class DLG_SAMPLE : public DLG_CLASS {
+class DLG_SAMPLE : public cRecordForm<cSkill> {
  public:
   enum : unsigned { kPrice = 1010, kPriceSpin = 1011, kCost = 1012, kUnlimited = 1020, kKind = 1030,
                     kName = 1040, kInfo = 1050, kReset = 1060 };
 
-  explicit DLG_SAMPLE(const cSkill& source) : DLG_CLASS(900, nullptr) {
-    m_Work.Copy(source);
-    Declare(m_vecEditInt, {{kPrice, &m_Work.m_nPrice, 0, 99999, kPriceSpin, 10}, {kCost, &m_Work.m_nCostSP, 5, 10}});
-    Declare(m_vecEditStr, {{kName, &m_Work.m_strName, 21, 20, 1, 1}});
-    Declare(m_vecCheck, {{kUnlimited, &m_Work.m_bUnlimited}});
-    Declare(m_vecCombo, {{kKind, &m_Work.m_nKind, kSampleKinds}});
-    Declare(m_vecLabel, {{kInfo}});
-    Declare(m_vecButton, {{kReset}});
+  explicit DLG_SAMPLE(const cSkill& source) : cRecordForm(nullptr, "サンプル", source) {
+    cFormTable& F = Table();
+    F.Group("基本");
+    F.EditStr(kName, "名前", &m_Work.m_strName, {.nLimit = 21, .nLineLen = 20, .nMaxLines = 1, .bWide = 1}).Row();
+    // The price means nothing for an unlimited skill.
+    F.EditVal(kPrice, "価格", &m_Work.m_nPrice, 0, 99999, 10, kPriceSpin).DisableBy(kUnlimited);
+    F.EditVal(kCost, "SP", &m_Work.m_nCostSP, 5, 10).Row();
+    F.Check(kUnlimited, "無制限", &m_Work.m_bUnlimited).Span(2);
+    F.Combo(kKind, "種類", &m_Work.m_nKind, kSampleKinds).Row();
+    F.EndGroup();
+    F.Label(kInfo, "情報").Button(kReset, "戻す");
+    F.OkCancel();
   }
 
-  void Layout(cFormLayout& L) override {
-    L.Group("基本");
-    L.Text("名前").EditStr(kName).Row();
-    L.Text("価格").EditVal(kPrice, kPriceSpin).Text("SP").EditVal(kCost).Row();
-    L.Check(kUnlimited, "無制限", 2).Combo(kKind, 2).Row();
-    L.EndGroup();
-    L.Label(kInfo).Button(kReset, "戻す");
-    L.OkCancel();
-  }
-
-  void OnInitDialog() override {
-    DLG_CLASS::OnInitDialog();
-    Bind(m_vecEditInt);
-    Bind(m_vecEditStr);
-    Bind(m_vecCheck);
-    Bind(m_vecCombo);
-    Bind(m_vecLabel);
-    Bind(m_vecButton);
-    UpdateAll();
-    UpdateEnable();
-    m_bReady = 1;
+  void OnReady() override {
     if (onReady) onReady();
   }
-
   void OnCommand(unsigned id, unsigned code) override {
-    DLG_CLASS::OnCommand(id, code);
     m_vecSeen.push_back({id, code});
-    if (EndOnOkCancel(id)) return;
+    DLG_CLASS::OnCommand(id, code);
+  }
+  void OnFormCommand(unsigned id, unsigned code) override {
     if (id == kReset && onReset) onReset();
-    if (m_bReady && FindChanged(id, code)) UpdateEnable();
   }
-
-  // The price means nothing for an unlimited skill.
-  void UpdateEnable() override {
-    ++m_nEnableRuns;
-    EnableCtrl(kPrice, GetCtrl<CTRL_CHECK_CLASS<int>>(kUnlimited)->Checked() == false);
-  }
-
-  cSkill m_Work;
-  VECTOR_CLASS<CTRL_EDITVAL_CLASS<int>> m_vecEditInt;
-  VECTOR_CLASS<CTRL_EDITSTR_CLASS> m_vecEditStr;
-  VECTOR_CLASS<CTRL_CHECK_CLASS<int>> m_vecCheck;
-  VECTOR_CLASS<CTRL_COMBO_CLASS<int>> m_vecCombo;
-  VECTOR_CLASS<CTRL_LABEL_CLASS> m_vecLabel;
-  VECTOR_CLASS<CTRL_BUTTON_CLASS> m_vecButton;
+  void OnUpdateEnable() override { ++m_nEnableRuns; }
 
   // What the tests watch and do.
   std::vector<std::pair<unsigned, unsigned>> m_vecSeen;

@@ -29,7 +29,7 @@ class TestPlayFormTest : public ProjectDirTest {
   }
   // Runs the form with `user` acting on it once it is up; the form's result.
   int Run(std::function<void(DLG_TESTPLAY&)> user) {
-    QTimer::singleShot(0, [user] { user(*g_pDlgTestPlay); });
+    QTimer::singleShot(0, [user] { user(*DLG_TESTPLAY::Live()); });
     return RunTestPlaySettings(nullptr);
   }
   static QWidget* Item(DLG_TESTPLAY& form, unsigned id) { return form.GetDlgItem(id); }

@@ -1,7 +1,7 @@
 // A bad index ends the run in order instead of reading outside the vector.
 
-#include "app/diagnostics.h"
-#include "app/main_window_link.h"
+#include "platform/diagnostics.h"
+#include "platform/main_window_link.h"
 #include "kernel/test_records.h"
 #include "support/test_env.h"
 

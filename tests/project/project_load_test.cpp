@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <tuple>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "platform/cp932.h"
 #include "project/project_globals.h"
 #include "support/test_env.h"

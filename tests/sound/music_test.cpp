@@ -6,7 +6,7 @@
 #include <cstring>
 #include <tuple>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "platform/cp932.h"
 #include "sound/music_render.h"
 #include "sound/sound.h"

@@ -2,7 +2,7 @@
 
 #include "sound/smf_format.h"
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "platform/cp932.h"
 #include "sound/sound_test_support.h"
 #include "support/test_env.h"

@@ -3,8 +3,8 @@
 #include <fstream>
 #include <unistd.h>
 
-#include "app/diagnostics.h"
-#include "app/main_window_link.h"
+#include "platform/diagnostics.h"
+#include "platform/main_window_link.h"
 #include "kernel/serial.h"
 
 namespace fs = std::filesystem;

@@ -7,7 +7,7 @@
 #include <filesystem>
 
 #include "app/edit_config_load.h"
-#include "app/main_window_link.h"
+#include "platform/main_window_link.h"
 #include "command_table.h"
 #include "database/skill_csv_exchange.h"
 #include "platform/cp932.h"

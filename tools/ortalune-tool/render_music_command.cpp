@@ -7,7 +7,7 @@
 #include <unistd.h>
 #include <vector>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "command_table.h"
 #include "platform/cp932.h"
 #include "platform/file_io.h"

@@ -2,7 +2,7 @@
 #include <filesystem>
 #include <vector>
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 #include "app/report_startup.h"
 #include "command_table.h"
 #include "platform/cp932.h"

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "app/edit_config_load.h"
-#include "app/main_window_link.h"
+#include "platform/main_window_link.h"
 #include "platform/cp932.h"
 #include "platform/prompt.h"
 #include "platform/stored_path.h"

@@ -1,10 +1,10 @@
 // The report log, the switchable log and the message routines.
 
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 
 #include <tuple>
 
-#include "app/main_window_link.h"
+#include "platform/main_window_link.h"
 #include "app/out_of_memory.h"
 #include "app/report_startup.h"
 #include "platform/cp932.h"

@@ -1,4 +1,4 @@
-#include "app/main_window_link.h"
+#include "platform/main_window_link.h"
 
 bool g_bRunEnding = false;
 

@@ -1,11 +1,11 @@
-#include "app/diagnostics.h"
+#include "platform/diagnostics.h"
 
 #include <algorithm>
 #include <cstdarg>
 #include <cstdio>
 #include <vector>
 
-#include "app/main_window_link.h"
+#include "platform/main_window_link.h"
 #include "platform/cp932.h"
 
 std::string g_szReportPath;
