@@ -3,7 +3,6 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QTimer>
 
 #include "app/battle_mode.h"
 #include "project/project_globals.h"
@@ -22,8 +21,7 @@ DLG_BATTLEMODE::DLG_BATTLEMODE() : DLG_CLASS(nullptr, "戦闘モードの選択"
 
 void DLG_BATTLEMODE::OnReady() {
   // Centred on the desktop, with the pointer resting on OK once the window stands.
-  QTimer::singleShot(0, m_hWnd, [this] {
-    if (m_hWnd == nullptr) return;
+  RunSoon([this] {
     if (QScreen* screen = QGuiApplication::primaryScreen()) m_hWnd->move(CentreOn(screen->availableGeometry(), m_hWnd->frameSize()));
     if (QWidget* ok = GetDlgItem(kIdOk)) QCursor::setPos(ok->mapToGlobal(ok->rect().center()));
   });

@@ -5,31 +5,25 @@
 #include <QWidget>
 #include <functional>
 
-#include "media/surface.h"
 #include "stage/stage_view_draw.h"
+#include "toolkit/view_class.h"
 
 class QLabel;
 class QScrollBar;
 
-// The picture control of the map: the stage drawn into a back buffer of the view's
-// size, copied to the screen on each paint.
-class cStageViewWidget : public QWidget {
+// The picture control of the map: the stage drawn into the view's back buffer, which
+// follows the view's size.
+class cStageView : public VIEW_CLASS {
  public:
-  explicit cStageViewWidget(QWidget* parent);
-  STAGE_VIEW m_View;
-  cSurface m_Buffer;
-  // Called after the cursor cell changed.
-  std::function<void()> m_onCursor;
-  // Called with a wheel message's 16-bit amount and whether Ctrl was held.
-  std::function<void(int, bool)> m_onWheel;
-  // Called after the view changed size.
-  std::function<void()> m_onResize;
+  void OnPaint() override;
+  void OnMouseMove(int x, int y) override;
+  void OnMouseWheel(int amount, bool bCtrl) override;
+  void OnSize() override;
 
- protected:
-  void paintEvent(QPaintEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
-  void wheelEvent(QWheelEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
+  STAGE_VIEW m_View;
+  std::function<void()> m_onCursor;        // after the cursor cell changed
+  std::function<void(int, bool)> m_onWheel;
+  std::function<void()> m_onResize;        // after the view changed size
 };
 
 class DLG_MAIN : public QWidget {
@@ -46,7 +40,7 @@ class DLG_MAIN : public QWidget {
   void Redraw();
   QString StatusText() const;
 
-  cStageViewWidget* m_pView;
+  cStageView m_Map;
   QScrollBar* m_pScrollH;
   QScrollBar* m_pScrollV;
   QLabel* m_pStatus;

@@ -114,26 +114,33 @@ void ECWrite(const std::string& text) {
   g_byECCreated = 1;
 }
 
-void ECSP(const char* format, ...) {
+namespace {
+
+// The switchable log's two routines differ only in where the text goes.
+void ECFormatTo(void (*sink)(const std::string&), const char* name, const char* format, va_list args) {
   if (!g_bECEnabled) return;
-  va_list args;
-  va_start(args, format);
   int needed = 0;
   std::string text = FormatV(kMessageBuffer, &needed, format, args);
+  sink(text);
+  if (needed >= kMessageBuffer - 1) sink(CP932_TEXT("バッファ不足で表示失敗 ") + name + "()");
+}
+
+void ErrorBoxSink(const std::string& text) { ErrorBox(text); }
+
+}  // namespace
+
+void ECSP(const char* format, ...) {
+  va_list args;
+  va_start(args, format);
+  ECFormatTo(ECWrite, "ECSP", format, args);
   va_end(args);
-  ECWrite(text);
-  if (needed >= kMessageBuffer - 1) ECSP("%s", CP932_TEXT("バッファ不足で表示失敗 ECSP()").c_str());
 }
 
 void ECMSP(const char* format, ...) {
-  if (!g_bECEnabled) return;
   va_list args;
   va_start(args, format);
-  int needed = 0;
-  std::string text = FormatV(kMessageBuffer, &needed, format, args);
+  ECFormatTo(ErrorBoxSink, "ECMSP", format, args);
   va_end(args);
-  ErrorBox(text);
-  if (needed >= kMessageBuffer - 1) ECMSP("%s", CP932_TEXT("バッファ不足で表示失敗 ECMSP()").c_str());
 }
 
 int MesBox(void* owner, const std::string& text, const std::string& caption, unsigned style) {

@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <optional>
 
@@ -124,6 +125,14 @@ class cDlgWindow : public QDialog {
 };
 
 DLG_CLASS* DLG_CLASS::FromWidget(QObject* w) { return FormOf(w); }
+
+void DLG_CLASS::RunSoon(std::function<void()> fn) {
+  QPointer<QWidget> window = m_hWnd;
+  if (!window) return;
+  QTimer::singleShot(0, window, [window, fn = std::move(fn)] {
+    if (window && FormOf(window) != nullptr) fn();
+  });
+}
 
 void ReportMissingCtrl(unsigned id) { MSP(CP932_TEXT("コントロールID 【%u】 が見つかりません！").c_str(), id); }
 

@@ -20,6 +20,7 @@
 #include <QPointer>
 #include <QScrollArea>
 #include <QString>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -135,6 +136,8 @@ class DLG_CLASS : public WND_CLASS, public cListCommandHost {
 
   // The live form a widget belongs to, or null once the form has let its window go.
   static DLG_CLASS* FromWidget(QObject* w);
+  // Runs `fn` once the event loop turns, if the form still has this window then.
+  void RunSoon(std::function<void()> fn);
 
   // The widget of `id` in this form, or null.
   QWidget* GetDlgItem(unsigned id) const;
@@ -162,7 +165,7 @@ class DLG_CLASS : public WND_CLASS, public cListCommandHost {
   CTRL_SCROLL_CLASS* m_pScrollV = nullptr;
 
  protected:
-  // Slot 14: binds the table, fills the screen, runs the enabling rules, then OnReady.
+  // The window stands: binds the table, fills the screen, runs the enabling rules, then OnReady.
   virtual void OnInitDialog();
   // What a form adds once its controls are bound and filled: focus, previews.
   virtual void OnReady() {}

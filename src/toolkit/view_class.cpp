@@ -2,7 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QWindow>
+#include <QWheelEvent>
 #include <algorithm>
 
 #include "toolkit/widgets.h"
@@ -35,6 +35,10 @@ class cViewWidget : public QWidget {
   void mouseReleaseEvent(QMouseEvent* e) override { Mouse(e); }
   void mouseDoubleClickEvent(QMouseEvent* e) override { Mouse(e); }
   void mouseMoveEvent(QMouseEvent* e) override { Mouse(e); }
+  void wheelEvent(QWheelEvent* e) override {
+    if (m_pView != nullptr) m_pView->OnMouseWheel(e->angleDelta().y(), (e->modifiers() & Qt::ControlModifier) != 0);
+    e->accept();
+  }
 
  public:
   bool m_bGrow = false;

@@ -68,6 +68,8 @@ class WND_CLASS {
   virtual void OnRButtonDblClk(int x, int y) {}
   virtual void OnLButtonUp(int x, int y) {}
   virtual void OnRButtonUp(int x, int y) {}
+  // A wheel message's 16-bit amount (120 a notch up) and whether Control was held.
+  virtual void OnMouseWheel(int amount, bool bCtrl) {}
   virtual void OnPaint() {}
 
   // Shows `menu` at the mouse and sends the chosen item's id as a command (code 0).

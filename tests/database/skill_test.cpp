@@ -96,14 +96,16 @@ TEST_F(SkillTest, ReferencesBeyondTheirTablesAreRepairedAtLoadAndSave) {
 }
 
 TEST_F(SkillTest, EachKindSetsItsTargetAndClearsWhatItDoesNotAllow) {
-  const int targets[kSkillKindCount] = {1, 1, 0, 0, 2, 0, 3, 0, 0, 0};
+  // One kind of each target; the loop checks that every kind writes its own.
+  EXPECT_EQ(std::make_tuple(TargetOfKind(0), TargetOfKind(1), TargetOfKind(4), TargetOfKind(6), TargetOfKind(9)),
+            std::make_tuple(1, 1, 2, 3, 0));
   for (int kind = 0; kind < kSkillKindCount; ++kind) {
     cSkill skill;
     skill.m_nKind = kind, skill.m_bUseMapSkill = skill.m_bUseMapStock = skill.m_bUseBattleSkill = 1;
     skill.m_bUseBattleQuick = skill.m_bUseBattleStock = 1;
     skill.m_bSubEffectAPercent = skill.m_bEffectOfWeapon = skill.m_bCompatiOfWeapon = 1;
     SKILL_CONTROL_STATES on = ApplySkillKindRules(skill);
-    EXPECT_EQ(skill.m_nTarget, targets[kind]) << kind;
+    EXPECT_EQ(skill.m_nTarget, TargetOfKind(kind)) << kind;
     EXPECT_FALSE(on[kCtlTarget]);
     EXPECT_EQ(skill.m_bUseMapSkill, kind == kSkillHeal ? 1 : 0) << kind;
     EXPECT_EQ(on[kCtlUseMapSkill], kind == kSkillHeal) << kind;

@@ -72,7 +72,7 @@ TEST_F(MainWindowTest, ShowsTheOpenStageWithBarsInCellsAndTheCursorCell) {
   EXPECT_EQ(g_pDlgMain->size(), QSize(DLG_MAIN::kWidth, DLG_MAIN::kHeight));
   EXPECT_EQ(g_pDlgMain->m_pStatus->text(), QStringLiteral("座標 (0,0)"));
 
-  cStageViewWidget* map = g_pDlgMain->m_pView;
+  QWidget* map = g_pDlgMain->m_Map.m_hWnd;
   cMapScrollRange h = MapScrollRange(g_Stage.m_nWidth, map->width());
   EXPECT_EQ(g_pDlgMain->m_pScrollH->maximum(), h.nMax);
   EXPECT_EQ(g_pDlgMain->m_pScrollV->maximum(), MapScrollRange(g_Stage.m_nHeight, map->height()).nMax);
@@ -82,7 +82,7 @@ TEST_F(MainWindowTest, ShowsTheOpenStageWithBarsInCellsAndTheCursorCell) {
   QImage shown = map->grab().toImage().convertToFormat(QImage::Format_RGB888);
   cSurface expected;
   expected.Create(map->width(), map->height(), 24, 0);
-  STAGE_VIEW at = map->m_View;
+  STAGE_VIEW at = g_pDlgMain->m_Map.m_View;
   EXPECT_EQ(at.m_nScrollX, 1);
   DrawStageView(expected, at);
   for (QPoint p : {QPoint(5, 5), QPoint(100, 70), QPoint(map->width() - 1, map->height() - 1)}) {

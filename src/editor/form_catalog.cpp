@@ -1,0 +1,56 @@
+#include "editor/form_catalog.h"
+
+#include <string>
+
+#include "editor/dlg_battle_mode.h"
+#include "editor/dlg_testplay.h"
+#include "forms/graphic_chooser.h"
+#include "forms/input_forms.h"
+#include "kernel/serial_file.h"
+#include "platform/cp932.h"
+#include "project/project_globals.h"
+
+namespace {
+
+std::vector<unsigned char> SavedBytes(cSerial& record) {
+  SerialFilePtr file = OpenSerialWriteBuffer();
+  record.Save(file.get());
+  return file->Bytes();
+}
+
+// The fields the input forms and the chooser write into stand for a caller's.
+int g_nAskedValue = 7;
+std::string g_strAskedText = "abc";
+
+std::vector<unsigned char> AskedBytes() {
+  std::vector<unsigned char> bytes(g_strAskedText.begin(), g_strAskedText.end());
+  for (int shift = 0; shift < 32; shift += 8) bytes.push_back(static_cast<unsigned char>(g_nAskedValue >> shift));
+  return bytes;
+}
+
+template <class Form, class... Args>
+std::function<std::unique_ptr<DLG_CLASS>()> Make(Args... args) {
+  return [=] { return std::unique_ptr<DLG_CLASS>(new Form(args...)); };
+}
+
+}  // namespace
+
+const std::vector<cFormCatalogEntry>& FormCatalog() {
+  static const std::vector<cFormCatalogEntry> catalog = {
+      {"DLG_TESTPLAY", Make<DLG_TESTPLAY>(nullptr), [] { return SavedBytes(g_TestPlay); }},
+      {"DLG_BATTLEMODE", Make<DLG_BATTLEMODE>(), [] { return SavedBytes(g_System); }},
+      {"DLG_INPUT",
+       [] {
+         return std::make_unique<DLG_INPUT>(nullptr, &g_nAskedValue, 0, 999, CP932_TEXT("データ数"), nullptr, false);
+       },
+       AskedBytes},
+      {"DLG_INPUT_STR",
+       [] {
+         return std::make_unique<DLG_INPUT_STR>(nullptr, &g_strAskedText, 12, true, CP932_TEXT("変数名の入力"), nullptr,
+                                                false);
+       },
+       AskedBytes},
+      {"DLG_SELECTGRAPHIC", [] { return std::make_unique<DLG_SELECTGRAPHIC>(2, &g_nAskedValue, nullptr); }, AskedBytes},
+  };
+  return catalog;
+}
