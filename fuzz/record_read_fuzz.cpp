@@ -3,9 +3,9 @@
 
 #include <cstdlib>
 
-#include "app/edit_config.h"
-#include "app/prop_sheet_size.h"
-#include "app/test_play_settings.h"
+#include "project/edit_config.h"
+#include "project/prop_sheet_size.h"
+#include "project/test_play_settings.h"
 #include "database/anim.h"
 #include "database/battle_ai.h"
 #include "database/chara_kinds.h"

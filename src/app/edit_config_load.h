@@ -1,5 +1,5 @@
 #pragma once
-#include "app/edit_config.h"
+#include "project/edit_config.h"
 
 // Loads the configuration at the start of a run. A project can still hold the file in
 // its old place under "data"; it is then read from there, written to "e_data" and the

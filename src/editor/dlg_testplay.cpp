@@ -3,7 +3,7 @@
 #include <QTimer>
 #include <filesystem>
 
-#include "app/test_play_labels.h"
+#include "project/test_play_labels.h"
 #include "platform/cp932.h"
 #include "project/project_globals.h"
 #include "toolkit/file_helpers.h"

@@ -8,7 +8,7 @@
 #include <clocale>
 
 #include "app/app_frame.h"
-#include "app/edit_config.h"
+#include "project/edit_config.h"
 #include "editor/editor_shell.h"
 #include "editor/qt_prompt.h"
 #include "platform/heap_pages.h"

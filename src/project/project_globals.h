@@ -3,10 +3,10 @@
 // every record holds its constructor defaults when the load begins, and live until the
 // process ends. All of them are defined in project_globals.cpp, in the order below.
 
-#include "app/edit_config.h"
-#include "app/prop_sheet_size.h"
-#include "app/system_ini.h"
-#include "app/test_play_settings.h"
+#include "project/edit_config.h"
+#include "project/prop_sheet_size.h"
+#include "project/system_ini.h"
+#include "project/test_play_settings.h"
 #include "database/chara_kinds.h"
 #include "database/database.h"
 #include "database/land.h"

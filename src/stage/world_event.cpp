@@ -1,6 +1,6 @@
 #include "stage/world_event.h"
 
-#include "app/edit_config.h"
+#include "project/edit_config.h"
 #include "kernel/serial_fields.h"
 
 int cWorldEventPage::Serialize(int op, const cSerial* other, cSerialFile* file, std::uint32_t version) {

@@ -2,7 +2,7 @@
 
 #include <tuple>
 
-#include "app/prop_sheet_size.h"
+#include "project/prop_sheet_size.h"
 #include "command_table.h"
 #include "database/csv_file.h"
 #include "platform/cp932.h"

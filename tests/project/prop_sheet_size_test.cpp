@@ -1,4 +1,4 @@
-#include "app/prop_sheet_size.h"
+#include "project/prop_sheet_size.h"
 
 #include "support/test_env.h"
 

@@ -1,4 +1,4 @@
-#include "app/test_play_labels.h"
+#include "project/test_play_labels.h"
 
 const char* const kTestRandomSkillLabels[] = {"テストプレイでも変わらない", "覚える可能性のあるスキルを全て習得",
                                           "ランダムスキル習得を無効化", ""};

@@ -1,4 +1,4 @@
-#include "app/prop_sheet_size.h"
+#include "project/prop_sheet_size.h"
 
 #include "kernel/serial_fields.h"
 

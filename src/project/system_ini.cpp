@@ -1,4 +1,4 @@
-#include "app/system_ini.h"
+#include "project/system_ini.h"
 
 #include <algorithm>
 #include <climits>

@@ -2,7 +2,7 @@
 
 #include <tuple>
 
-#include "app/edit_config.h"
+#include "project/edit_config.h"
 #include "app/edit_config_load.h"
 #include "platform/diagnostics.h"
 #include "database/db_test_support.h"

@@ -1,4 +1,4 @@
-#include "app/edit_config.h"
+#include "project/edit_config.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "app/test_play_settings.h"
+#include "project/test_play_settings.h"
 
 #include "kernel/serial_fields.h"
 
