@@ -1,6 +1,5 @@
 #include "editor/dlg_testplay.h"
 
-#include <QTimer>
 #include <filesystem>
 
 #include "project/test_play_labels.h"
@@ -63,13 +62,4 @@ void DLG_TESTPLAY::Browse() {
 int RunTestPlaySettings(QWidget* parent) {
   DLG_TESTPLAY form(parent);
   return form.DoModal();
-}
-
-void ShowTestPlaySettingsFor(const std::function<void(QWidget*)>& look) {
-  DLG_TESTPLAY form(nullptr);
-  QTimer::singleShot(300, [&form, &look] {
-    if (form.m_hWnd != nullptr) look(form.m_hWnd);
-    form.End(0);
-  });
-  form.DoModal();
 }

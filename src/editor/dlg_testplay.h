@@ -3,7 +3,6 @@
 // itself: OK commits them and writes "e_data\Testplay.dat"; Cancel drops what was not
 // committed. A path chosen with "参照" goes into the record at once.
 
-#include <functional>
 #include <string>
 
 #include "toolkit/dlg_class.h"
@@ -39,5 +38,3 @@ bool GamePathOf(const std::string& native, std::string& stored);
 
 // The menu command: the form, modal.
 int RunTestPlaySettings(QWidget* parent);
-// Opens the form, hands its window to `look` once it is laid out, and closes it.
-void ShowTestPlaySettingsFor(const std::function<void(QWidget*)>& look);

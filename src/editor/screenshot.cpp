@@ -2,12 +2,15 @@
 
 #include <QApplication>
 #include <QPixmap>
+#include <QEventLoop>
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <string>
 
-#include "editor/dlg_testplay.h"
+#include "editor/form_catalog.h"
+#include "toolkit/dlg_class.h"
 #include "editor/view_main.h"
 
 namespace {
@@ -31,18 +34,29 @@ void EndRun() {
   g_pViewMain->close();
 }
 
+// Each form of the catalog, shown long enough to be laid out and painted.
+void SaveForms(const std::string& folder) {
+  for (const cFormCatalogEntry& entry : FormCatalog()) {
+    std::unique_ptr<DLG_CLASS> form = entry.make();
+    if (!form->Create(0, true)) continue;
+    QEventLoop settle;
+    QTimer::singleShot(300, &settle, &QEventLoop::quit);
+    settle.exec();
+    Save(form->m_hWnd, folder + "/" + entry.name + ".png");
+    form->SendCommand(kIdCancel, kNotifyClicked);
+  }
+}
+
 }  // namespace
 
 bool ScheduleScreenshots() {
   std::string mainPath = EnvPath("ORTALUNE_SCREENSHOT");
-  std::string formPath = EnvPath("ORTALUNE_SCREENSHOT_TESTPLAY");
-  if (mainPath.empty() && formPath.empty()) return false;
+  std::string formFolder = EnvPath("ORTALUNE_SCREENSHOT_FORMS");
+  if (mainPath.empty() && formFolder.empty()) return false;
   // Late enough for the window to be laid out and painted.
-  QTimer::singleShot(500, [mainPath, formPath] {
+  QTimer::singleShot(500, [mainPath, formFolder] {
     if (!mainPath.empty() && g_pViewMain != nullptr) Save(g_pViewMain, mainPath);
-    if (!formPath.empty()) {
-      ShowTestPlaySettingsFor([formPath](QWidget* form) { Save(form, formPath); });
-    }
+    if (!formFolder.empty()) SaveForms(formFolder);
     EndRun();
   });
   return true;

@@ -239,19 +239,22 @@ void DLG_CLASS::Place() {
   m_hWnd->move(PlaceInWorkArea(*pos, size, screen->availableGeometry()));
 }
 
-int DLG_CLASS::DoModal(int flags) {
-  if (m_hWnd) return 0;
+void DLG_CLASS::OpenWindow(int flags, bool modeless) {
   End(0);
-  m_bModeless = 0;
   m_nShowFlags = flags;
   if (flags & kDlgHideOthers) g_WndList.ShowAll(false);
   if (flags & kDlgDisableOthers) g_WndList.EnableAll(false);
   m_bShowFlagsApplied = true;
   m_bEnded = false;
-  BuildWindow(false);
-  QPointer<QWidget> window = m_hWnd;
+  BuildWindow(modeless);
   OnInitDialog();
   SyncLists();
+}
+
+int DLG_CLASS::DoModal(int flags) {
+  if (m_hWnd) return 0;
+  OpenWindow(flags, false);
+  QPointer<QWidget> window = m_hWnd;
   OnPaint();
   if (auto* dialog = qobject_cast<QDialog*>(window.data()); dialog != nullptr && !m_bEnded) dialog->exec();
   WindowGone();
@@ -264,15 +267,7 @@ int DLG_CLASS::DoModal(int flags) {
 
 bool DLG_CLASS::Create(int flags, bool bShow) {
   if (m_hWnd) return false;
-  End(0);
-  m_nShowFlags = flags;
-  if (flags & kDlgHideOthers) g_WndList.ShowAll(false);
-  if (flags & kDlgDisableOthers) g_WndList.EnableAll(false);
-  m_bShowFlagsApplied = true;
-  m_bEnded = false;
-  BuildWindow(true);
-  OnInitDialog();
-  SyncLists();
+  OpenWindow(flags, true);
   if (bShow && m_hWnd) m_hWnd->show();
   OnPaint();
   return m_hWnd != nullptr;

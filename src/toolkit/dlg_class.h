@@ -181,6 +181,8 @@ class DLG_CLASS : public WND_CLASS, public cListCommandHost {
   friend class cDlgWindow;
   friend class cFormLayout;
   bool BuildWindow(bool modeless);
+  // What DoModal and Create share: the show flags, the window, its initialisation.
+  void OpenWindow(int flags, bool modeless);
   void RouteCommand(unsigned id, unsigned code);
   void FinishCommand(unsigned id, unsigned code);
   void WindowGone();
