@@ -16,7 +16,7 @@ DLG_BATTLEMODE::DLG_BATTLEMODE() : DLG_CLASS(nullptr, "戦闘モードの選択"
   F.Text("オート：マップ上で戦闘コマンドを選び、戦闘そのものは自動で進みます。").Row();
   F.Text("この設定は、あとからデータベースの「システム3」ページで変更できます。").Row();
   F.Combo(kIdMode, "戦闘モード", &m_nMode, kBattleModeLabels).LabelAbove().Row();
-  F.Button(kIdOk, "OK");
+  F.OkOnly();
 }
 
 void DLG_BATTLEMODE::OnReady() {

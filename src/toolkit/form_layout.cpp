@@ -173,7 +173,7 @@ cFormLayout& cFormLayout::Widget(unsigned id, const std::function<QWidget*(QWidg
   return Put(make ? make(m_pParent) : nullptr, id, span);
 }
 
-cFormLayout& cFormLayout::OkCancel() {
+cFormLayout& cFormLayout::OkCancel(bool cancel) {
   EndGroup();
   if (m_nCol != 0) Row();
   auto* cell = new QWidget(m_pParent);
@@ -181,6 +181,7 @@ cFormLayout& cFormLayout::OkCancel() {
   row->setContentsMargins(0, 0, 0, 0);
   row->addStretch(1);
   for (auto [id, text] : {std::pair<unsigned, const char*>{kIdOk, "OK"}, {kIdCancel, "キャンセル"}}) {
+    if (id == kIdCancel && !cancel) break;
     auto* b = MakeButton(id, text, cell);
     b->setAccessibleName(b->text());
     QObject::connect(b, &QPushButton::clicked, b, [b, id = id] { Send(b, id, kNotifyClicked); });

@@ -44,8 +44,8 @@ class cFormLayout {
   cFormLayout& List(unsigned id, int rows = 8, int span = 1);
   // A widget of the form's own, made by `make` with the form's content as its parent.
   cFormLayout& Widget(unsigned id, const std::function<QWidget*(QWidget*)>& make, int span = 1);
-  // A row of buttons OK (1006) and Cancel (1007) at the right.
-  cFormLayout& OkCancel();
+  // A row of buttons OK (1006) and, with `cancel`, Cancel (1007) at the right.
+  cFormLayout& OkCancel(bool cancel);
 
   // The widget made last.
   QWidget* Last() const { return m_pLast; }

@@ -60,6 +60,7 @@ cFormTable& cFormTable::EndGroup() { return AddPlace(eKind::kEndGroup); }
 cFormTable& cFormTable::Text(const char* text, int span) { return AddPlace(eKind::kText, text, span); }
 cFormTable& cFormTable::Skip(int span) { return AddPlace(eKind::kSkip, "", span); }
 cFormTable& cFormTable::OkCancel() { return AddPlace(eKind::kOkCancel); }
+cFormTable& cFormTable::OkOnly() { return AddPlace(eKind::kOkOnly); }
 
 cFormTable& cFormTable::NoMargins() {
   m_bNoMargins = true;
@@ -207,7 +208,8 @@ void cFormTable::Layout(cFormLayout& L, const std::string& formTitle) const {
         break;
       case eKind::kText: L.Text(e.text.c_str(), e.span); break;
       case eKind::kSkip: L.Skip(e.span); break;
-      case eKind::kOkCancel: L.OkCancel(); break;
+      case eKind::kOkCancel: L.OkCancel(true); break;
+      case eKind::kOkOnly: L.OkCancel(false); break;
     }
   }
 }
@@ -269,10 +271,8 @@ void cFormTable::UpdateEnable(DLG_CLASS& form) const {
 std::vector<unsigned> cFormTable::Ids() const {
   std::vector<unsigned> ids;
   for (const cEntry& e : m_vecEntry) {
-    if (e.kind == eKind::kOkCancel) {
-      ids.push_back(kIdOk);
-      ids.push_back(kIdCancel);
-    }
+    if (e.kind == eKind::kOkCancel || e.kind == eKind::kOkOnly) ids.push_back(kIdOk);
+    if (e.kind == eKind::kOkCancel) ids.push_back(kIdCancel);
     if (e.kind != eKind::kControl) continue;
     if (e.id != 0) ids.push_back(e.id);
     if (e.partnerId != 0) ids.push_back(e.partnerId);

@@ -59,8 +59,10 @@ class cFormTable {
   // A fixed text without an id, and an empty cell.
   cFormTable& Text(const char* text, int span = 1);
   cFormTable& Skip(int span = 1);
-  // The buttons OK (1006) and Cancel (1007) at the right of a row of their own.
+  // The buttons OK (1006) and Cancel (1007) at the right of a row of their own; or OK
+  // alone, for a form that cannot be declined.
   cFormTable& OkCancel();
+  cFormTable& OkOnly();
   // The controls fill the form to its edges, with no margin around them.
   cFormTable& NoMargins();
 
@@ -139,7 +141,7 @@ class cFormTable {
   bool Empty() const { return m_vecEntry.empty(); }
 
  private:
-  enum class eKind : std::uint8_t { kControl, kRow, kGroup, kEndGroup, kText, kSkip, kOkCancel };
+  enum class eKind : std::uint8_t { kControl, kRow, kGroup, kEndGroup, kText, kSkip, kOkCancel, kOkOnly };
   struct cEntry {
     eKind kind = eKind::kControl;
     eFormWidget widget = eFormWidget::kLabel;
