@@ -77,7 +77,7 @@ void ReadCpu(cMachineFacts& f) {
 
 void ReadMemory(cMachineFacts& f) {
   f.memTotal = KiBValueOf("/proc/meminfo", "MemTotal");
-  f.memFree = KiBValueOf("/proc/meminfo", "MemAvailable");
+  f.memFree = ReadAvailableMemory();
   // The address space this process may use, and what of it is not yet mapped.
   struct rlimit limit {};
   f.virTotal = (::getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY)
@@ -129,3 +129,5 @@ cMachineFacts ReadMachineFacts() {
 
 void SetDisplayFacts(const cDisplayFacts& facts) { g_displayFacts = facts; }
 const cDisplayFacts& GetDisplayFacts() { return g_displayFacts; }
+
+std::uint64_t ReadAvailableMemory() { return KiBValueOf("/proc/meminfo", "MemAvailable"); }

@@ -35,6 +35,8 @@ cOsFacts ReadOsFacts();
 
 // Everything the operating system tells without a display.
 cMachineFacts ReadMachineFacts();
+// The memory the system could give a program now without swapping, in bytes.
+std::uint64_t ReadAvailableMemory();
 
 // Facts of the display and its font, set by the window layer at start-up.
 struct cDisplayFacts {

@@ -12,6 +12,8 @@ void cEditState::Reset() {
   m_nCursorShape = TOOL_PEN;
   m_nDragX = m_nDragY = -1;
   m_nBrushW = m_nBrushH = 1;
+  m_pEditEvent = nullptr;
+  m_eDrag = eMapDrag::kIdle;
 
   const bool hasEvents = !g_Stage.m_vecEvent.empty();
   const int saved[kPaletteCount][PALSTATE_COUNT] = {

@@ -1,10 +1,14 @@
 #pragma once
 // What the editor holds about the stage it works on, beside the stage itself: the
-// current palette and tool, the brushes, and the state of a drag under way.
+// current palette and tool, the brushes, the state of a drag under way, the event
+// template and clipboard, and the undo history.
 
 #include <array>
 #include <cstdint>
 #include <string>
+
+#include "event/event.h"
+#include "stage/undo_history.h"
 
 // m_nPalette
 enum : int { PALETTE_CHIP = 0, PALETTE_ENEMY = 1, PALETTE_EVENT = 2 };
@@ -22,6 +26,10 @@ enum : int {
   PALSTATE_COUNT
 };
 
+// A drag on the map: idle, the left button held (pen, line or rectangle under way), or
+// the right one (a range being picked).
+enum class eMapDrag : int { kIdle, kLeft, kRight };
+
 class cEditState {
  public:
   // A brush holds any range of the largest stage, row r and column c at r * 64 + c.
@@ -31,7 +39,8 @@ class cEditState {
   // The change and clipboard flags clear; which stage is open, and its path, stay, since
   // the windows are rebuilt around an open stage. Palette 0 becomes current with
   // the pen; the saved states give palette 1 no enemy chosen and palette 2 the first
-  // event of g_Stage if it has one. Brushes, selection and tool positions stay.
+  // event of g_Stage if it has one. Brushes, selection, tool positions and the history
+  // stay.
   void Reset();
 
   // Whether entry `index` of the chip brush names a terrain record of g_vecLand.
@@ -49,6 +58,7 @@ class cEditState {
   std::array<std::int32_t, kBrushSide * kBrushSide> m_aBrushEnemy{};  // rows of m_vecPutEnemy, or -1
   int m_bEditPlaced = 0;  // the event form edits an event that stands on the map
   int m_bEventClip = 0;   // the event clipboard holds something
+  int m_bStartEvent = 0;  // the event form edits the project's start event
   int m_nSelected = 0;    // palette entry chosen; -1 = none
   int m_nListSel = 0;
   int m_nDragX = -1;  // start cell of a right-button pick
@@ -62,6 +72,11 @@ class cEditState {
   int m_nRectW = 0;
   int m_nRectH = 0;
   int m_aPaletteState[kPaletteCount][PALSTATE_COUNT] = {};
+  eMapDrag m_eDrag = eMapDrag::kIdle;
+  cEvent m_PutEvent;              // the template chosen in the event palette
+  cEvent* m_pEditEvent = nullptr;  // the event the event form is to edit
+  cEvent m_EventClip;
+  cUndoHistory m_History;
 };
 
 extern cEditState g_EditState;

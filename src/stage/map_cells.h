@@ -124,11 +124,12 @@ class cMapCells {
     return index < map.m_vecMap.size() ? &map.m_vecMap[index] : nullptr;
   }
 
- protected:
+  // The element of m_vecMap of a cell on the map.
   std::size_t CellIndex(int x, int y) const {
     return (static_cast<std::size_t>(y) << Self().m_nShift) + static_cast<std::size_t>(x);
   }
 
+ protected:
   // Cells inside the width and height that do not name a row of a table of `rows`
   // become 0. Padding cells are left as they are.
   void ClampCells(int rows) {

@@ -22,11 +22,6 @@ bool TerrainChip(long long terrain, long long& sx, long long& sy) {
   return n >= 0 && SheetHasCell(g_aSheet[SHEET_MAP_CHIP], sx, sy);
 }
 
-void DrawTerrainChip(cSurface& buffer, int px, int py, long long terrain) {
-  long long sx, sy;
-  if (TerrainChip(terrain, sx, sy)) BlitSheetCell(buffer, px, py, g_aSheet[SHEET_MAP_CHIP], sx, sy);
-}
-
 // Clears a cell to black as a fill of the whole buffer would.
 void ClearCell(cSurface& buffer, int px, int py) {
   static const cSurface black = [] {
@@ -174,6 +169,11 @@ int DrawStageView(cSurface& buffer, const STAGE_VIEW& view) {
   DrawMapGrid(buffer, view);
   if (view.m_bCursor) DrawCursor(buffer, view);
   return 1;
+}
+
+void DrawTerrainChip(cSurface& buffer, int px, int py, long long terrain) {
+  long long sx, sy;
+  if (TerrainChip(terrain, sx, sy)) BlitSheetCell(buffer, px, py, g_aSheet[SHEET_MAP_CHIP], sx, sy);
 }
 
 std::string MapCoordText(int x, int y) {

@@ -63,6 +63,9 @@ int DrawStageView(cSurface& buffer, const STAGE_VIEW& view);
 // The status bar text of a map view: "座標 (x,y)" in CP932.
 std::string MapCoordText(int x, int y);
 
+// The chip of terrain record `terrain` at (px, py); nothing for a missing record or cell.
+void DrawTerrainChip(cSurface& buffer, int px, int py, long long terrain);
+
 // --- Pieces shared by the stage and the world map views ---
 
 // Whether the 32 x 32 cell at (sx, sy) lies wholly inside the sheet.
