@@ -1,14 +1,17 @@
 #include "editor/dlg_main.h"
 
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QScrollBar>
 #include <algorithm>
 
+#include "editor/dlg_chip.h"
 #include "editor/map_scroll.h"
 #include "editor/qt_prompt.h"
 #include "project/project_globals.h"
 #include "stage/edit_state.h"
+#include "stage/map_edit.h"
 
 void cStageView::OnPaint() {
   m_View.m_nWidth = m_Back.m_nWidth;
@@ -16,15 +19,34 @@ void cStageView::OnPaint() {
   DrawStageView(m_Back, m_View);
 }
 
-void cStageView::OnMouseMove(int px, int py) {
-  const int x = CellOfPixel(m_View.m_nScrollX, px);
-  const int y = CellOfPixel(m_View.m_nScrollY, py);
-  if (x == m_View.m_nCursorX && y == m_View.m_nCursorY) return;
-  m_View.m_nCursorX = x;
-  m_View.m_nCursorY = y;
+void cStageView::Mouse(int msg, int x, int y) {
+  const cMouseState& m = m_Mouse;
+  StageMouse(m_View, {static_cast<eMapMouse>(msg), x, y, m.left, m.right});
   Invalidate();
   if (m_onCursor) m_onCursor();
 }
+
+void cStageView::OnMouseMove(int x, int y) {
+  const int cx = m_View.m_nCursorX, cy = m_View.m_nCursorY;
+  if (!g_EditState.m_bStageOpen) {
+    // Without a stage the status line still follows the pointer.
+    m_View.m_nCursorX = CellOfPixel(m_View.m_nScrollX, x);
+    m_View.m_nCursorY = CellOfPixel(m_View.m_nScrollY, y);
+    if (m_onCursor && (cx != m_View.m_nCursorX || cy != m_View.m_nCursorY)) m_onCursor();
+    return;
+  }
+  StageMouse(m_View, {eMapMouse::kMove, x, y, m_Mouse.left, m_Mouse.right});
+  // A move within the cell changes nothing on the screen.
+  if (cx == m_View.m_nCursorX && cy == m_View.m_nCursorY) return;
+  Invalidate();
+  if (m_onCursor) m_onCursor();
+}
+
+void cStageView::OnLButtonDown(int x, int y) { Mouse(static_cast<int>(eMapMouse::kLeftDown), x, y); }
+void cStageView::OnLButtonUp(int x, int y) { Mouse(static_cast<int>(eMapMouse::kLeftUp), x, y); }
+void cStageView::OnRButtonDown(int x, int y) { Mouse(static_cast<int>(eMapMouse::kRightDown), x, y); }
+void cStageView::OnRButtonUp(int x, int y) { Mouse(static_cast<int>(eMapMouse::kRightUp), x, y); }
+void cStageView::OnRButtonDblClk(int x, int y) { Mouse(static_cast<int>(eMapMouse::kRightDoubleClick), x, y); }
 
 void cStageView::OnMouseWheel(int amount, bool bCtrl) {
   if (m_onWheel) m_onWheel(amount, bCtrl);
@@ -37,8 +59,8 @@ void cStageView::OnSize() {
 DLG_MAIN::DLG_MAIN(QWidget* parent, QSize size) : QWidget(parent), m_Size(size) {
   setFocusPolicy(Qt::StrongFocus);
   setMinimumSize(kMinWidth, kMinHeight);
-  setMaximumSize(kWidth, kHeight);
   m_Map.CreateView(this, size.width(), size.height(), true);
+  m_Map.m_hWnd->setAccessibleName(QStringLiteral("マップ"));
   m_pScrollH = new QScrollBar(Qt::Horizontal, this);
   m_pScrollV = new QScrollBar(Qt::Vertical, this);
   m_pStatus = new QLabel(this);
@@ -63,6 +85,8 @@ DLG_MAIN::DLG_MAIN(QWidget* parent, QSize size) : QWidget(parent), m_Size(size) 
   m_pStatus->setText(StatusText());
 }
 
+DLG_MAIN::~DLG_MAIN() { delete m_pDlgChip.data(); }
+
 QString DLG_MAIN::StatusText() const { return QtText(MapCoordText(m_Map.m_View.m_nCursorX, m_Map.m_View.m_nCursorY)); }
 
 void DLG_MAIN::UpdateScrollRanges() {
@@ -78,11 +102,42 @@ void DLG_MAIN::UpdateScrollRanges() {
 
 void DLG_MAIN::Redraw() { m_Map.Invalidate(); }
 
-
 void DLG_MAIN::Scrolled() {
   STAGE_VIEW& view = m_Map.m_View;
   if (view.m_nScrollX == m_pScrollH->value() && view.m_nScrollY == m_pScrollV->value()) return;
   view.m_nScrollX = m_pScrollH->value();
   view.m_nScrollY = m_pScrollV->value();
   Redraw();
+}
+
+void DLG_MAIN::ShowPalette(int palette) {
+  if (palette != PALETTE_CHIP) {
+    delete m_pDlgChip.data();
+    return;
+  }
+  if (m_pDlgChip != nullptr) return;
+  m_pDlgChip = new DLG_CHIP(window(), [this](int key) {
+    if (m_onKey) m_onKey(key);
+  });
+  m_pDlgChip->show();
+}
+
+DLG_CHIP* DLG_MAIN::Chip() const { return m_pDlgChip.data(); }
+
+void DLG_MAIN::RefreshPalette() {
+  if (m_pDlgChip != nullptr) m_pDlgChip->Refresh();
+  Redraw();
+}
+
+void DLG_MAIN::SetPaletteVisible(bool visible) {
+  if (m_pDlgChip != nullptr) m_pDlgChip->setVisible(visible);
+}
+
+void DLG_MAIN::keyPressEvent(QKeyEvent* event) {
+  const bool space = event->key() == Qt::Key_Space && !m_Map.m_Mouse.left && !m_Map.m_Mouse.right;
+  if ((space || event->key() == Qt::Key_F5) && m_onKey) {
+    m_onKey(event->key());
+    return;
+  }
+  QWidget::keyPressEvent(event);
 }

@@ -1,13 +1,16 @@
 #pragma once
 // DLG_MAIN, the stage editor's main dialog: the map view of the open stage with its
-// two scroll bars in cells, and the status line with the cursor cell.
+// two scroll bars in cells, the status line with the cursor cell, and the palette of
+// the moment. The mouse on the map goes to the editing engine (stage/map_edit.h).
 
+#include <QPointer>
 #include <QWidget>
 #include <functional>
 
 #include "stage/stage_view_draw.h"
 #include "toolkit/view_class.h"
 
+class DLG_CHIP;
 class QLabel;
 class QScrollBar;
 
@@ -17,22 +20,31 @@ class cStageView : public VIEW_CLASS {
  public:
   void OnPaint() override;
   void OnMouseMove(int x, int y) override;
+  void OnLButtonDown(int x, int y) override;
+  void OnLButtonUp(int x, int y) override;
+  void OnRButtonDown(int x, int y) override;
+  void OnRButtonUp(int x, int y) override;
+  void OnRButtonDblClk(int x, int y) override;
   void OnMouseWheel(int amount, bool bCtrl) override;
   void OnSize() override;
 
   STAGE_VIEW m_View;
-  std::function<void()> m_onCursor;        // after the cursor cell changed
+  std::function<void()> m_onCursor;        // after a mouse message
   std::function<void(int, bool)> m_onWheel;
   std::function<void()> m_onResize;        // after the view changed size
+
+ private:
+  void Mouse(int msg, int x, int y);
 };
 
 class DLG_MAIN : public QWidget {
  public:
-  // The client size of the dialog and its limits.
+  // The default client size, and the smallest; the window grows with the frame.
   static constexpr int kWidth = 640, kHeight = 480;
   static constexpr int kMinWidth = 384, kMinHeight = 160;
 
   explicit DLG_MAIN(QWidget* parent, QSize size);
+  ~DLG_MAIN() override;
   QSize sizeHint() const override { return m_Size; }
 
   // The bars' ranges from the stage and the view's size; the view drawn again.
@@ -40,12 +52,26 @@ class DLG_MAIN : public QWidget {
   void Redraw();
   QString StatusText() const;
 
+  // The palette window of `palette` stands, the others are gone. Palettes whose
+  // windows the program does not have yet show none.
+  void ShowPalette(int palette);
+  // What a map edit may have changed in the palette.
+  void RefreshPalette();
+  void SetPaletteVisible(bool visible);
+  DLG_CHIP* Chip() const;
+
   cStageView m_Map;
   QScrollBar* m_pScrollH;
   QScrollBar* m_pScrollV;
   QLabel* m_pStatus;
+  // Space and F5, from this window or a palette.
+  std::function<void(int key)> m_onKey;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void Scrolled();
   QSize m_Size;
+  QPointer<DLG_CHIP> m_pDlgChip;
 };

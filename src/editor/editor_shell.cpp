@@ -11,6 +11,8 @@
 #include "editor/idle_timer.h"
 #include "editor/screenshot.h"
 #include "editor/view_main.h"
+#include "stage/edit_state.h"
+#include "stage/map_edit.h"
 
 namespace {
 
@@ -51,8 +53,9 @@ int cEditorShell::CreateMainWindow() {
   g_IdleClients.focusMain = FocusMain;
   m_pIdle = std::make_unique<cIdleTimer>();
   m_pIdle->Reconsider();
-  g_pDlgMain->UpdateScrollRanges();
-  g_pDlgMain->setFocus();
+  // The palette the configuration stored comes up with an open stage.
+  if (g_EditState.m_bStageOpen) ChangePalette(g_EditState.m_nPalette);
+  m_pView->FocusMain();
   return 1;
 }
 

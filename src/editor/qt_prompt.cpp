@@ -1,6 +1,7 @@
 #include "editor/qt_prompt.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -33,3 +34,15 @@ int cQtPrompt::MessageBox(void* owner, const std::string& text, const std::strin
 }
 
 void cQtPrompt::Beep() { QApplication::beep(); }
+
+bool cQtPrompt::ChooseFiles(void* owner, const cFileAsk& ask, std::vector<std::string>& out) {
+  QFileDialog dialog(static_cast<QWidget*>(owner), QString::fromStdString(ask.title),
+                     QString::fromStdString(ask.initialDir), QString::fromStdString(ask.filter));
+  dialog.setAcceptMode(ask.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(ask.save ? QFileDialog::AnyFile : ask.multi ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
+  dialog.setDefaultSuffix(QString::fromStdString(ask.defaultExt));
+  if (!ask.name.empty()) dialog.selectFile(QString::fromStdString(ask.name));
+  if (dialog.exec() != QDialog::Accepted) return false;
+  for (const QString& f : dialog.selectedFiles()) out.push_back(f.toStdString());
+  return !out.empty();
+}

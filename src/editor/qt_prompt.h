@@ -1,6 +1,6 @@
 #pragma once
-// Message boxes and the refusal beep of the editor: the program's questions as Qt
-// message boxes. An owner passed by the logic is the QWidget of a window, or null.
+// Message boxes, file dialogs and the refusal beep of the editor: the program's
+// questions as Qt dialogs. An owner passed by the logic is the QWidget of a window, or null.
 
 #include <QString>
 #include <string>
@@ -11,6 +11,7 @@ class cQtPrompt : public cPrompt {
  public:
   int MessageBox(void* owner, const std::string& text, const std::string& caption, unsigned style) override;
   void Beep() override;
+  bool ChooseFiles(void* owner, const cFileAsk& ask, std::vector<std::string>& out) override;
 };
 
 // CP932 text for a widget.

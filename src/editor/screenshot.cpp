@@ -1,7 +1,10 @@
 #include "editor/screenshot.h"
 
 #include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPixmap>
+#include <QScreen>
 #include <QEventLoop>
 #include <QTimer>
 #include <cstdio>
@@ -22,6 +25,27 @@ std::string EnvPath(const char* name) {
 
 void Save(QWidget* widget, const std::string& path) {
   QPixmap picture = widget->grab();
+  if (picture.save(QString::fromStdString(path), "PNG"))
+    std::fprintf(stderr, "ortalune: wrote %s (%d by %d pixels)\n", path.c_str(), picture.width(), picture.height());
+  else
+    std::fprintf(stderr, "ortalune: cannot write %s\n", path.c_str());
+}
+
+// The whole screen with the main window, its palette and the first menu open, as the
+// user sees them together.
+void SaveScreen(const std::string& path) {
+  QMenu* first = nullptr;
+  if (const QList<QAction*> menus = g_pViewMain->menuBar()->actions(); !menus.isEmpty()) first = menus.front()->menu();
+  if (first != nullptr) {
+    const QRect item = g_pViewMain->menuBar()->actionGeometry(g_pViewMain->menuBar()->actions().front());
+    first->popup(g_pViewMain->menuBar()->mapToGlobal(item.bottomLeft()));
+  }
+  QEventLoop settle;
+  QTimer::singleShot(300, &settle, &QEventLoop::quit);
+  settle.exec();
+  QScreen* screen = g_pViewMain->screen();
+  const QPixmap picture = screen != nullptr ? screen->grabWindow(0) : QPixmap();
+  if (first != nullptr) first->hide();
   if (picture.save(QString::fromStdString(path), "PNG"))
     std::fprintf(stderr, "ortalune: wrote %s (%d by %d pixels)\n", path.c_str(), picture.width(), picture.height());
   else
@@ -55,7 +79,12 @@ bool ScheduleScreenshots() {
   if (mainPath.empty() && formFolder.empty()) return false;
   // Late enough for the window to be laid out and painted.
   QTimer::singleShot(500, [mainPath, formFolder] {
-    if (!mainPath.empty() && g_pViewMain != nullptr) Save(g_pViewMain, mainPath);
+    if (!mainPath.empty() && g_pViewMain != nullptr) {
+      Save(g_pViewMain, mainPath);
+      std::string screen = mainPath;
+      screen.insert(screen.size() - (screen.ends_with(".png") ? 4 : 0), "-screen");
+      SaveScreen(screen);
+    }
     if (!formFolder.empty()) SaveForms(formFolder);
     EndRun();
   });

@@ -1,17 +1,26 @@
 #include "editor/view_main.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QMenuBar>
+#include <QMenu>
+#include <QScreen>
+#include <QTimer>
 #include <algorithm>
 
-#include "platform/diagnostics.h"
+#include "app/app_frame.h"
+#include "app/stage_commands.h"
+#include "editor/command_bar.h"
+#include "editor/dlg_chip.h"
 #include "editor/dlg_main.h"
 #include "editor/dlg_testplay.h"
 #include "editor/map_scroll.h"
 #include "platform/cp932.h"
+#include "platform/diagnostics.h"
 #include "project/project_globals.h"
 #include "stage/edit_state.h"
+#include "stage/event_menu.h"
+#include "toolkit/wnd_class.h"
 
 VIEW_MAIN* g_pViewMain = nullptr;
 
@@ -21,8 +30,7 @@ namespace {
 QRect StoredPlace() {
   const cWndPosInfo& pos = g_EditConfig.m_PosMain;
   if (!pos.m_bValid) return {50, 50, DLG_MAIN::kWidth, DLG_MAIN::kHeight};
-  return {pos.m_nX, pos.m_nY, std::clamp(pos.m_nWidth, DLG_MAIN::kMinWidth, +DLG_MAIN::kWidth),
-          std::clamp(pos.m_nHeight, DLG_MAIN::kMinHeight, +DLG_MAIN::kHeight)};
+  return {pos.m_nX, pos.m_nY, std::max(pos.m_nWidth, +DLG_MAIN::kMinWidth), std::max(pos.m_nHeight, +DLG_MAIN::kMinHeight)};
 }
 
 }  // namespace
@@ -30,32 +38,151 @@ QRect StoredPlace() {
 VIEW_MAIN::VIEW_MAIN() {
   g_pViewMain = this;
   setAttribute(Qt::WA_DeleteOnClose, false);
-  QRect place = StoredPlace();
-  m_pDlg = new DLG_MAIN(this, place.size());
-  setCentralWidget(m_pDlg);
-  BuildMenu();
-  UpdateTitle();
-  resize(sizeHint());  // the stored size, which may exceed what adjustSize allows on a small screen
-  move(place.topLeft());
+  const QRect place = StoredPlace();
+  m_DlgSize = place.size();
+  m_pCommands = std::make_unique<cCommandBar>(this, [this](int id) { Command(id); });
+  BuildMain();
+  SetMapEditHost(this);
+  resize(sizeHint());
+  if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+    const QRect work = screen->availableGeometry();
+    resize(size().boundedTo(work.size()));
+    move(PlaceInWorkArea(place.topLeft(), size(), work));
+  } else {
+    move(place.topLeft());
+  }
+  connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+    if (state == Qt::ApplicationActive) {
+      g_bFocusRequest = 1;
+      ShowPalettes();
+    } else if (!isMinimized() && !m_bMinimized) {
+      HidePalettes();
+    }
+  });
 }
 
 VIEW_MAIN::~VIEW_MAIN() {
+  SetMapEditHost(nullptr);
+  delete m_pDlg;
+  g_pDlgMain = nullptr;
   if (g_pViewMain == this) g_pViewMain = nullptr;
 }
 
 void VIEW_MAIN::UpdateTitle() { setWindowTitle(QString::fromStdString(MainTitleText(g_EditState.m_strStagePath))); }
 
-void VIEW_MAIN::BuildMenu() {
-  QMenu* testPlay = menuBar()->addMenu(QStringLiteral("テストプレイ(&T)"));
-  testPlay->addAction(QStringLiteral("テストプレイの設定(&E)"), this, [this] { RunTestPlaySettings(this); });
+void VIEW_MAIN::Command(int id) {
+  RunStageCommand(id);
+  if (m_pDlg == nullptr) return;
+  m_pDlg->UpdateScrollRanges();
+  m_pDlg->RefreshPalette();
+}
+
+bool VIEW_MAIN::MainIsActive() const { return isActiveWindow(); }
+
+void VIEW_MAIN::FocusMain() {
+  if (m_pDlg == nullptr) return;
+  activateWindow();
+  m_pDlg->setFocus();
+}
+
+void VIEW_MAIN::RefreshPalette() {
+  if (m_pDlg != nullptr) m_pDlg->RefreshPalette();
+}
+
+void VIEW_MAIN::UpdateCommands() { m_pCommands->Update(); }
+
+void VIEW_MAIN::ShowPalette(int palette) {
+  if (m_pDlg != nullptr) m_pDlg->ShowPalette(palette);
+}
+
+// The event and enemy forms come with their palettes; until then the shortcuts refuse.
+bool VIEW_MAIN::EditEvent(cEvent&, bool) {
+  QApplication::beep();
+  return false;
+}
+
+void VIEW_MAIN::EditEnemyRow(int) { QApplication::beep(); }
+
+void VIEW_MAIN::DestroyMain() {
+  if (m_pDlg == nullptr) return;
+  m_DlgSize = m_pDlg->size();
+  delete m_pDlg;
+  m_pDlg = nullptr;
+  g_pDlgMain = nullptr;
+}
+
+void VIEW_MAIN::BuildMain() {
+  m_pDlg = new DLG_MAIN(this, m_DlgSize);
+  m_pDlg->m_onKey = [this](int key) {
+    if (key == Qt::Key_F5) {
+      Command(IDM_TEST_PLAY);
+      return;
+    }
+    if (!g_EditState.m_bStageOpen) return;
+    NextPalette();
+    FocusMain();
+  };
+  setCentralWidget(m_pDlg);
+  g_pDlgMain = m_pDlg;
+  m_pDlg->UpdateScrollRanges();
+  UpdateTitle();
+  UpdateCommands();
+}
+
+void VIEW_MAIN::WaitCursor(bool wait) {
+  if (wait)
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  else
+    QApplication::restoreOverrideCursor();
+}
+
+bool VIEW_MAIN::RunForm(int command) {
+  switch (command) {
+    case IDM_TEST_PLAY_SETTINGS: RunTestPlaySettings(this); return true;
+    default: return false;
+  }
+}
+
+int VIEW_MAIN::PopupEventMenu(const bool* enabled) {
+  QMenu menu(this);
+  for (std::size_t i = 0; i < kEventMenu.size(); ++i) {
+    QAction* action = menu.addAction(QString::fromUtf8(kEventMenu[i].text));
+    action->setData(kEventMenu[i].id);
+    action->setEnabled(enabled[i]);
+  }
+  QAction* chosen = menu.exec(QCursor::pos());
+  return chosen != nullptr ? chosen->data().toInt() : 0;
 }
 
 void VIEW_MAIN::StorePlace() {
-  g_EditConfig.m_PosMain.Set(x(), y(), m_pDlg->width(), m_pDlg->height());
+  if (m_pDlg != nullptr) g_EditConfig.m_PosMain.Set(x(), y(), m_pDlg->width(), m_pDlg->height());
+}
+
+void VIEW_MAIN::HidePalettes() {
+  if (m_pDlg == nullptr || m_pDlg->Chip() == nullptr || !m_pDlg->Chip()->isVisible()) return;
+  m_pDlg->SetPaletteVisible(false);
+  m_bMinimized = true;
+}
+
+void VIEW_MAIN::ShowPalettes() {
+  if (!m_bMinimized) return;
+  m_bMinimized = false;
+  if (m_pDlg != nullptr) m_pDlg->SetPaletteVisible(true);
+}
+
+void VIEW_MAIN::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() != QEvent::WindowStateChange) return;
+  if (isMinimized()) {
+    HidePalettes();
+  } else {
+    g_bFocusRequest = 1;
+    ShowPalettes();
+  }
 }
 
 void VIEW_MAIN::closeEvent(QCloseEvent* event) {
-  if (m_bAskOnClose && MesBox(this, CP932_TEXT("終了しますか？\n"), CP932_TEXT("終了確認"), MB_YESNO) != IDYES) {
+  if (m_bAskOnClose && !AskSave()) {
     event->ignore();
     return;
   }
@@ -64,9 +191,9 @@ void VIEW_MAIN::closeEvent(QCloseEvent* event) {
 }
 
 void VIEW_MAIN::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape) {
-    close();
+  if (event->key() != Qt::Key_Escape) {
+    QMainWindow::keyPressEvent(event);
     return;
   }
-  QMainWindow::keyPressEvent(event);
+  if (MesBox(this, CP932_TEXT("終了しますか？\n"), CP932_TEXT("終了確認"), MB_YESNO) == IDYES) close();
 }

@@ -1,7 +1,6 @@
 #include "toolkit/file_helpers.h"
 
 #include <QDir>
-#include <QFileDialog>
 #include <algorithm>
 #include <filesystem>
 
@@ -10,23 +9,9 @@
 
 namespace {
 
-FileDialogHook& Hook() {
-  static FileDialogHook hook;
-  return hook;
-}
-
 bool Ask(QWidget* owner, const cFileAsk& ask, std::vector<std::string>& out) {
   out.clear();
-  if (Hook()) return Hook()(ask, out) && !out.empty();
-  QFileDialog dialog(owner, QString::fromStdString(ask.title), QString::fromStdString(ask.initialDir),
-                     QString::fromStdString(ask.filter));
-  dialog.setAcceptMode(ask.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-  dialog.setFileMode(ask.save ? QFileDialog::AnyFile : ask.multi ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
-  dialog.setDefaultSuffix(QString::fromStdString(ask.defaultExt));
-  if (!ask.name.empty()) dialog.selectFile(QString::fromStdString(ask.name));
-  if (dialog.exec() != QDialog::Accepted) return false;
-  for (const QString& f : dialog.selectedFiles()) out.push_back(f.toStdString());
-  return !out.empty();
+  return CurrentPrompt().ChooseFiles(owner, ask, out) && !out.empty();
 }
 
 // Offset of the last "." of the file name part, or npos.
@@ -44,8 +29,6 @@ bool EqualNoCase(std::string_view a, std::string_view b) {
 }
 
 }  // namespace
-
-void SetFileDialogHook(FileDialogHook hook) { Hook() = std::move(hook); }
 
 bool OpenFileDialog(QWidget* owner, std::string& path, const std::string& initialDir, const std::string& title,
                     const std::string& filter, const std::string& defaultExt, bool bMulti,

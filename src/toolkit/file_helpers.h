@@ -1,5 +1,6 @@
 #pragma once
-// The file helpers of the pages that name files. Dialogs answer native paths (UTF-8);
+// The file helpers of the pages that name files. Dialogs, asked through the current
+// prompt, answer native paths (UTF-8);
 // MakeRelative and the stored-path functions of platform/stored_path.h turn them into
 // what records keep. ChangeExt, HasExt and ListFiles work on stored paths (CP932, "\").
 
@@ -9,21 +10,7 @@
 #include <vector>
 
 #include "kernel/vector_class.h"
-
-// What a file dialog is asked; filters are Qt's ("Images (*.png *.bmp);;All (*)").
-struct cFileAsk {
-  bool save = false;
-  bool multi = false;
-  std::string initialDir;  // native, UTF-8
-  std::string title;       // UTF-8
-  std::string filter;
-  std::string defaultExt;  // without the dot
-  std::string name;        // the name offered first
-};
-// Answers file dialogs instead of the screen (tests, headless runs): true with the
-// chosen native paths, false for a cancelled dialog. Null restores the real dialogs.
-using FileDialogHook = std::function<bool(const cFileAsk&, std::vector<std::string>&)>;
-void SetFileDialogHook(FileDialogHook hook);
+#include "platform/prompt.h"
 
 // An existing file (files, with bMulti); `path` takes the first. False when cancelled.
 bool OpenFileDialog(QWidget* owner, std::string& path, const std::string& initialDir, const std::string& title,

@@ -4,6 +4,7 @@ target_sources(ortalune_gui_tests PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/app_test_support.cpp
   ${CMAKE_CURRENT_LIST_DIR}/app_start_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/main_window_test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/stage_editor_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/testplay_form_test.cpp
 )
 target_compile_definitions(ortalune_gui_tests PRIVATE ORTALUNE_TEMPLATE_DIR="${CMAKE_BINARY_DIR}/share/ortalune/template")

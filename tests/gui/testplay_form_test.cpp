@@ -63,17 +63,14 @@ TEST_F(TestPlayFormTest, PathIsEditableOnlyWithoutAutomaticSearchAndOkSavesTheRe
 
 TEST_F(TestPlayFormTest, BrowsedProgramGoesIntoTheRecordAtOnceRelativeWithBackslashes) {
   const std::string chosen = (m_dir / "game" / "bin" / "play").string();
-  SetFileDialogHook([&](const cFileAsk& ask, std::vector<std::string>& out) {
-    EXPECT_EQ(ask.initialDir, ".");
-    out = {chosen};
-    return true;
-  });
+  m_prompt.files = {{chosen}};
   Run([](DLG_TESTPLAY& form) {
     Click(form, DLG_TESTPLAY::kIdBrowse);
     EXPECT_EQ(qobject_cast<QLineEdit*>(Item(form, DLG_TESTPLAY::kIdGamePath))->text(), QStringLiteral("game\\bin\\play"));
     Click(form, kIdCancel);
   });
-  SetFileDialogHook(nullptr);
+  ASSERT_EQ(m_prompt.fileAsks.size(), 1u);
+  EXPECT_EQ(m_prompt.fileAsks[0].initialDir, ".");
   EXPECT_EQ(g_TestPlay.m_strGamePath, "game\\bin\\play");
   EXPECT_FALSE(fs::exists("e_data/Testplay.dat"));
   std::string stored = "old";

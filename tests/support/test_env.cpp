@@ -39,6 +39,14 @@ int cScriptedPrompt::MessageBox(void*, const std::string& text, const std::strin
   return answer;
 }
 
+bool cScriptedPrompt::ChooseFiles(void*, const cFileAsk& ask, std::vector<std::string>& out) {
+  fileAsks.push_back(ask);
+  if (files.empty()) return false;
+  out = files.front();
+  files.erase(files.begin());
+  return !out.empty();
+}
+
 void ProjectDirTest::SetUp() {
   m_previousDir = fs::current_path();
   std::string pattern = (fs::temp_directory_path() / "ortalune-test-XXXXXX").string();

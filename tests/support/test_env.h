@@ -18,7 +18,8 @@ std::vector<unsigned char> FileBytes(const std::filesystem::path& path);
 std::string FileText(const std::filesystem::path& path);
 void WriteBytes(const std::filesystem::path& path, const std::vector<unsigned char>& bytes);
 
-// Records every box and answers from a script (IDOK when the script is empty).
+// Records every box and file dialog and answers from a script (IDOK when the script
+// is empty).
 class cScriptedPrompt : public cPrompt {
  public:
   struct Shown {
@@ -31,8 +32,14 @@ class cScriptedPrompt : public cPrompt {
   // Called as a box is shown, to observe what the program had done by then.
   std::function<void()> onShow;
 
+  // File dialogs: each one asked is kept, and answered by the next entry of `files`;
+  // an empty entry, or none left, is a cancelled dialog.
+  std::vector<cFileAsk> fileAsks;
+  std::vector<std::vector<std::string>> files;
+
   int MessageBox(void* owner, const std::string& text, const std::string& caption, unsigned style) override;
   void Beep() override { ++beeps; }
+  bool ChooseFiles(void* owner, const cFileAsk& ask, std::vector<std::string>& out) override;
 };
 
 // Copies the given globals now and puts them back when it goes: a member of a fixture

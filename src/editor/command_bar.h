@@ -1,0 +1,29 @@
+#pragma once
+// The menu bar and the toolbar of the stage editor, built from its command table:
+// each item sends its command id, and Update shows the table's enabling and marks.
+
+#include <QString>
+#include <functional>
+#include <map>
+
+class QAction;
+class QObject;
+class QMainWindow;
+class QToolBar;
+
+class cCommandBar {
+ public:
+  // Fills the menu bar of `window` and adds its toolbar; a chosen item calls `run`.
+  cCommandBar(QMainWindow* window, std::function<void(int)> run);
+  // The enabled state and the check marks from the edit state.
+  void Update();
+  QAction* MenuAction(int id) const;
+  QAction* ToolAction(int id) const;
+  QToolBar* ToolBar() const { return m_pToolBar; }
+
+ private:
+  QAction* Make(QObject* parent, int id, const QString& text);
+  std::function<void(int)> m_Run;
+  std::map<int, QAction*> m_mapMenu, m_mapTool;
+  QToolBar* m_pToolBar;
+};

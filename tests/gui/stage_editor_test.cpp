@@ -1,0 +1,124 @@
+// The stage editor's windows driven as a user drives them: the mouse on the map and
+// the chip palette, the menu and the toolbar, the questions on leaving.
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QTest>
+#include <QToolButton>
+#include <filesystem>
+
+#include "app/app_frame.h"
+#include "app/stage_commands.h"
+#include "editor/command_bar.h"
+#include "editor/dlg_chip.h"
+#include "editor/dlg_main.h"
+#include "editor/editor_shell.h"
+#include "editor/view_main.h"
+#include "gui/app_test_support.h"
+#include "platform/cp932.h"
+#include "project/project_globals.h"
+#include "stage/edit_state.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class StageEditorTest : public TemplateProjectTest {
+ protected:
+  void SetUp() override {
+    TemplateProjectTest::SetUp();
+    fs::copy("default", "data", fs::copy_options::recursive);
+    ASSERT_TRUE(StartUp(m_shell));
+    m_view = m_shell.m_pView.get();
+    m_view->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_view));
+  }
+  void TearDown() override {
+    if (m_view != nullptr) {
+      m_view->m_bAskOnClose = false;
+      m_view->close();
+    }
+    ShutDown();
+    TemplateProjectTest::TearDown();
+  }
+  QAction* Menu(int id) const { return m_view->Commands().MenuAction(id); }
+  QAction* Tool(int id) const { return m_view->Commands().ToolAction(id); }
+  int Cell(int x, int y) const { return g_Stage.m_vecMap[g_Stage.CellIndex(x, y)]; }
+
+  cEditorShell m_shell;
+  VIEW_MAIN* m_view = nullptr;
+};
+
+TEST_F(StageEditorTest, AChipChosenInThePaletteIsDrawnByAPenStrokeAndOneUndoRestoresTheCells) {
+  DLG_CHIP* chip = m_view->Dlg()->Chip();
+  ASSERT_NE(chip, nullptr) << "an open stage starts with the chip palette";
+  QTest::mouseClick(chip->m_View.m_hWnd, Qt::LeftButton, {}, QPoint(32 + 5, 5));
+  EXPECT_EQ(g_EditState.m_nSelected, 1);
+  EXPECT_TRUE(chip->m_pStatus->text().startsWith(QStringLiteral("2 : ")));
+
+  const std::vector<int> before(g_Stage.m_vecMap.begin(), g_Stage.m_vecMap.end());
+  QWidget* map = m_view->Dlg()->m_Map.m_hWnd;
+  QTest::mousePress(map, Qt::LeftButton, {}, QPoint(5, 5));
+  QTest::mouseMove(map, QPoint(32 + 5, 5));
+  QTest::mouseMove(map, QPoint(32 + 5, 32 + 5));
+  QTest::mouseRelease(map, Qt::LeftButton, {}, QPoint(32 + 5, 32 + 5));
+  EXPECT_EQ(std::make_tuple(Cell(0, 0), Cell(1, 0), Cell(1, 1)), std::make_tuple(1, 1, 1));
+  EXPECT_EQ(g_EditState.m_bStageModified, 1);
+  EXPECT_TRUE(Tool(IDM_UNDO)->isEnabled());
+
+  Menu(IDM_UNDO)->trigger();
+  EXPECT_EQ(std::vector<int>(g_Stage.m_vecMap.begin(), g_Stage.m_vecMap.end()), before);
+  EXPECT_FALSE(Menu(IDM_UNDO)->isEnabled());
+  EXPECT_TRUE(Menu(IDM_REDO)->isEnabled());
+
+  // The tool buttons, found by their names, change the tool.
+  for (QToolButton* button : chip->findChildren<QToolButton*>())
+    if (button->accessibleName() == QStringLiteral("塗り潰し")) button->click();
+  EXPECT_EQ(g_EditState.m_nTool, TOOL_FILL);
+}
+
+TEST_F(StageEditorTest, CommandsFollowTheOpenStageAndSpaceChangesThePalette) {
+  EXPECT_TRUE(Menu(IDM_SAVE)->isEnabled());
+  EXPECT_TRUE(Menu(IDM_PALETTE_CHIP)->isChecked());
+  QTest::keyClick(m_view->Dlg(), Qt::Key_Space);
+  EXPECT_EQ(g_EditState.m_nPalette, PALETTE_ENEMY);
+  EXPECT_TRUE(Tool(IDT_PALETTE_ENEMY)->isChecked());
+  EXPECT_EQ(m_view->Dlg()->Chip(), nullptr);
+
+  Menu(IDM_CLOSE)->trigger();
+  EXPECT_EQ(g_EditState.m_bStageOpen, 0);
+  for (int id : {IDM_SAVE, IDM_UNDO, IDT_PALETTE_CHIP}) EXPECT_FALSE((Tool(id) ? Tool(id) : Menu(id))->isEnabled()) << id;
+  for (int id : {IDM_NEW, IDM_OPEN, IDM_DATABASE, IDM_TEST_PLAY}) EXPECT_TRUE(Menu(id)->isEnabled()) << id;
+  EXPECT_EQ(m_view->windowTitle(), QStringLiteral("オルタルーン"));
+
+  // A new stage: its first save asks where, and then the title holds the path.
+  Menu(IDM_NEW)->trigger();
+  EXPECT_EQ(g_EditState.m_bStageOpen, 1);
+  m_prompt.files = {{(m_dir / "data/stg/Mine.stg2").string()}};
+  Tool(IDM_SAVE)->trigger();
+  EXPECT_EQ(m_view->windowTitle(), QStringLiteral("オルタルーン  data\\stg\\Mine.stg2"));
+}
+
+TEST_F(StageEditorTest, LeavingWithChangesAsksAndCancelKeepsTheWindowAndTheFlags) {
+  g_EditState.m_bStageModified = 1;
+  m_prompt.answers = {IDCANCEL};
+  EXPECT_FALSE(m_view->close());
+  EXPECT_TRUE(m_view->isVisible());
+  EXPECT_EQ(g_EditState.m_bStageModified, 1);
+
+  // Escape asks whether to end at all; no keeps the editor.
+  m_prompt.shown.clear();
+  m_prompt.answers = {IDNO};
+  QTest::keyClick(m_view->Dlg(), Qt::Key_Escape);
+  ASSERT_EQ(m_prompt.shown.size(), 1u);
+  EXPECT_EQ(m_prompt.shown[0].caption, CP932_TEXT("終了確認"));
+  EXPECT_TRUE(m_view->isVisible());
+
+  // Qt's own buttons speak Japanese.
+  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "&Yes"), QStringLiteral("はい(&Y)"));
+}
+
+}  // namespace
