@@ -7,6 +7,7 @@ target_sources(ortalune_core PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/battle_ai.cpp
   ${CMAKE_CURRENT_LIST_DIR}/chara_class.cpp
   ${CMAKE_CURRENT_LIST_DIR}/chara.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/class_rows.cpp
   ${CMAKE_CURRENT_LIST_DIR}/chara_growth.cpp
   ${CMAKE_CURRENT_LIST_DIR}/chara_kinds.cpp
   ${CMAKE_CURRENT_LIST_DIR}/chara_preview.cpp

@@ -4,6 +4,8 @@
 
 #include "editor/dlg_battle_mode.h"
 #include "editor/dlg_testplay.h"
+#include "forms/database/sense_form.h"
+#include "forms/database/slot_forms.h"
 #include "forms/graphic_chooser.h"
 #include "forms/input_forms.h"
 #include "kernel/serial_file.h"
@@ -25,6 +27,17 @@ std::string g_strAskedText = "abc";
 std::vector<unsigned char> AskedBytes() {
   std::vector<unsigned char> bytes(g_strAskedText.begin(), g_strAskedText.end());
   for (int shift = 0; shift < 32; shift += 8) bytes.push_back(static_cast<unsigned char>(g_nAskedValue >> shift));
+  return bytes;
+}
+
+// The records the sub-forms of the database pages edit stand for a page's row.
+cSlot g_Slot;
+cOrgSlotList g_OrgSlot;
+VECTOR_CLASS<std::int32_t> g_vecSense{3, 0, 7};
+
+std::vector<unsigned char> SenseBytes() {
+  std::vector<unsigned char> bytes;
+  for (std::int32_t v : g_vecSense) bytes.push_back(static_cast<unsigned char>(v));
   return bytes;
 }
 
@@ -51,6 +64,9 @@ const std::vector<cFormCatalogEntry>& FormCatalog() {
        },
        AskedBytes},
       {"DLG_SELECTGRAPHIC", [] { return std::make_unique<DLG_SELECTGRAPHIC>(2, &g_nAskedValue, nullptr); }, AskedBytes},
+      {"DLG_SLOT", [] { return std::make_unique<DLG_SLOT>(g_Slot, 0); }, [] { return SavedBytes(g_Slot); }},
+      {"DLG_ORGSLOT", [] { return std::make_unique<DLG_ORGSLOT>(g_OrgSlot, 0); }, [] { return SavedBytes(g_OrgSlot); }},
+      {"DLG_SENSE", [] { return std::make_unique<DLG_SENSE>(g_vecSense, 0); }, SenseBytes},
   };
   return catalog;
 }

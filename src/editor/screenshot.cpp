@@ -13,6 +13,7 @@
 #include <string>
 
 #include "editor/form_catalog.h"
+#include "forms/database/database_sheet.h"
 #include "toolkit/dlg_class.h"
 #include "editor/view_main.h"
 
@@ -68,6 +69,17 @@ void SaveForms(const std::string& folder) {
     settle.exec();
     Save(form->m_hWnd, folder + "/" + entry.name + ".png");
     form->SendCommand(kIdCancel, kNotifyClicked);
+  }
+  // The database sheet, on each page it has.
+  if (PROP_DATABASE* sheet = OpenDatabaseSheet(nullptr, {})) {
+    for (int page = 0; page < sheet->m_vecPage.Count(); ++page) {
+      sheet->SetCurrentPage(page);
+      QEventLoop settle;
+      QTimer::singleShot(300, &settle, &QEventLoop::quit);
+      settle.exec();
+      Save(sheet->m_hWnd, folder + "/PROP_DATABASE-" + std::to_string(page) + ".png");
+    }
+    sheet->Cancel();
   }
 }
 

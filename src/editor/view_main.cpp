@@ -15,6 +15,7 @@
 #include "editor/dlg_main.h"
 #include "editor/dlg_testplay.h"
 #include "editor/map_scroll.h"
+#include "forms/database/database_sheet.h"
 #include "platform/cp932.h"
 #include "platform/diagnostics.h"
 #include "project/project_globals.h"
@@ -139,8 +140,29 @@ void VIEW_MAIN::WaitCursor(bool wait) {
 bool VIEW_MAIN::RunForm(int command) {
   switch (command) {
     case IDM_TEST_PLAY_SETTINGS: RunTestPlaySettings(this); return true;
+    case IDM_DATABASE: return OpenDatabase();
     default: return false;
   }
+}
+
+// The stage editor steps aside while the sheet is open, and takes up the applied
+// tables when it closes: the stage is repaired against them and the palette laid out
+// again.
+bool VIEW_MAIN::OpenDatabase() {
+  if (OpenDatabaseSheet(nullptr, [this] {
+        if (g_EditState.m_bStageOpen) g_Stage.Clamp();
+        show();
+        setEnabled(true);
+        if (m_pDlg != nullptr && m_pDlg->Chip() != nullptr) m_pDlg->Chip()->Relayout();
+        if (m_pDlg != nullptr) m_pDlg->SetPaletteVisible(true);
+        RefreshPalette();
+        FocusMain();
+      }) == nullptr)
+    return false;
+  m_pDlg->SetPaletteVisible(false);
+  setEnabled(false);
+  hide();
+  return true;
 }
 
 int VIEW_MAIN::PopupEventMenu(const bool* enabled) {

@@ -50,6 +50,7 @@ class VIEW_MAIN : public QMainWindow, public cMapEditHost {
 
  private:
   void StorePlace();
+  bool OpenDatabase();
   void HidePalettes();
   void ShowPalettes();
   DLG_MAIN* m_pDlg = nullptr;

@@ -30,24 +30,32 @@ struct cTableRows {
   int nMaxRows = 999;
 };
 
+// A page of the database sheet, as the sheet's apply sees every page.
+class cDatabasePage : public DLG_CLASS {
+ public:
+  explicit cDatabasePage(const char* title) : DLG_CLASS(nullptr, title) {}
+  // The page's edits into its table, where the page has any.
+  virtual void CommitPage() = 0;
+  // Set by the sheet's apply: the tables behind the names this page shows changed.
+  bool m_bStale = false;
+};
+
 template <class R>
-class cTablePage : public DLG_CLASS {
+class cTablePage : public cDatabasePage {
  public:
   enum : unsigned { kIdNew = 11069, kIdClear = 11070, kIdCount = kIdListCount };
 
   cTablePage(VECTOR_CLASS<R>& table, const char* title, cTableRows rows)
-      : DLG_CLASS(nullptr, title), m_pTable(&table), m_Rows(rows) {}
+      : cDatabasePage(title), m_pTable(&table), m_Rows(rows) {}
 
   // Every row's number is its place; then, if the page has been shown, the working
   // copy goes over the table. A page never shown leaves its table alone.
-  void CommitPage() {
+  void CommitPage() override {
     for (int i = 0; i < m_vecWork.Count(); ++i)
       if constexpr (requires(R r) { r.m_nID; }) m_vecWork[i].m_nID = i;
     if (m_bShown) m_List.Apply(false);
   }
 
-  // Set by the sheet's apply: the tables behind the names this page shows changed.
-  bool m_bStale = false;
   VECTOR_CLASS<R> m_vecWork;
   R m_Edit;
   CTRL_LIST_CLASS<R> m_List;

@@ -46,10 +46,12 @@ int SaveVectorFile(const char* path) {
 
 constexpr int kFirstVersionWithHelp = 212;
 
-int SaveAll(std::initializer_list<const cProjectFile*> files) {
+int SaveAll(std::initializer_list<const cProjectFile*> files, std::vector<std::string>* unsaved = nullptr) {
   int allWritten = 1;
   for (const cProjectFile* file : files) {
-    if (!file->save(file->path)) allWritten = 0;
+    if (file->save(file->path)) continue;
+    allWritten = 0;
+    if (unsaved != nullptr) unsaved->push_back(file->path);
   }
   return allWritten;
 }
@@ -106,15 +108,17 @@ int LoadDatabase() {
   return 1;
 }
 
-int SaveDatabase() {
+int SaveDatabase(std::vector<std::string>* unsaved) {
   RepairSkills();
   return SaveAll({&kCompatiTypeFile, &kPartyValFile, &kPictureFile, &kBackFile, &kCharaAnimFile, &kEffectAnimFile,
-                  &kSoundFile, &kBgmFile, &kHelpFile});
+                  &kSoundFile, &kBgmFile, &kHelpFile},
+                 unsaved);
 }
 
-int SaveAllDatabaseFiles() {
-  int lists = SaveDatabase();
-  int rest = SaveAll({&kClassFile, &kFriendFile, &kEnemyFile, &kLandFile, &kSkillFile, &kSystemFile, &kWorldMapFile});
+int SaveAllDatabaseFiles(std::vector<std::string>* unsaved) {
+  int lists = SaveDatabase(unsaved);
+  int rest = SaveAll({&kClassFile, &kFriendFile, &kEnemyFile, &kLandFile, &kSkillFile, &kSystemFile, &kWorldMapFile},
+                     unsaved);
   return lists && rest;
 }
 

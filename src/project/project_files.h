@@ -2,6 +2,9 @@
 // The record files of a project, each bound to the global object it fills, and the
 // saves of the database. The load order lives in project_load.cpp.
 
+#include <string>
+#include <vector>
+
 struct cProjectFile {
   const char* path;                 // stored path
   int (*load)(const char* path);    // 1 when read whole
@@ -37,12 +40,13 @@ extern const cProjectFile kWorldMapFile;
 int LoadDatabase();
 
 // The skill repair, then the nine lists in their save order. A file that cannot be
-// written is skipped and the others are still tried; 0 when any was skipped.
-int SaveDatabase();
+// written is skipped and the others are still tried; 0 when any was skipped, whose
+// stored paths go to `unsaved` when given.
+int SaveDatabase(std::vector<std::string>* unsaved = nullptr);
 
 // What applying the database sheet writes: the lists, then the other tables of the
-// rule set. 0 when any file was skipped.
-int SaveAllDatabaseFiles();
+// rule set. 0 when any file was skipped, as SaveDatabase.
+int SaveAllDatabaseFiles(std::vector<std::string>* unsaved = nullptr);
 
 // Every skill of every list gets its references repaired.
 void RepairSkills();

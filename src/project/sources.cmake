@@ -6,6 +6,7 @@ target_sources(ortalune_core PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/project_load.cpp
   ${CMAKE_CURRENT_LIST_DIR}/project_tree.cpp
   ${CMAKE_CURRENT_LIST_DIR}/prop_sheet_size.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/sheet_tint.cpp
   ${CMAKE_CURRENT_LIST_DIR}/sheets.cpp
   ${CMAKE_CURRENT_LIST_DIR}/system.cpp
   ${CMAKE_CURRENT_LIST_DIR}/system_defaults.cpp

@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
+#include <QMenu>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
@@ -441,7 +442,7 @@ void DLG_CLASS::OnContextMenu(QPoint global) {
   for (auto& view : m_vecListView) {
     if (!view->HitTest(global)) continue;
     SendCommand(view->m_nId, kNotifySelChange);
-    TrackMenu(view->m_pMenu);
+    if (!view->m_pMenu->isEmpty()) TrackMenu(view->m_pMenu);
     return;
   }
 }

@@ -98,8 +98,10 @@ class DLG_CLASS : public WND_CLASS, public cListCommandHost {
   void End(int result);
 
   void UpdateAll();
-  void UpdateAllExcept(unsigned id);
-  void UpdateAllExcept(cListCtrlBase& list) override;
+  // Fields to the screen but for control `id`; a form whose boxes' rows depend on the
+  // record refills them first.
+  virtual void UpdateAllExcept(unsigned id);
+  void UpdateAllExcept(cListCtrlBase& list) final;
   void ApplyAll();
   // The id of the control that this command changes the value of, or 0.
   unsigned FindChanged(unsigned id, unsigned code) const;

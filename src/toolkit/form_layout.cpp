@@ -42,12 +42,17 @@ cFormLayout& cFormLayout::NoMargins() {
   return *this;
 }
 
-QGridLayout* cFormLayout::Grid() const { return m_pGroup != nullptr ? m_pGroup : m_pRoot; }
+QGridLayout* cFormLayout::Grid() const {
+  return m_pGroup != nullptr ? m_pGroup : m_pColumn != nullptr ? m_pColumn : m_pRoot;
+}
 
 cFormLayout& cFormLayout::Row() {
   if (m_pGroup != nullptr) {
     ++m_nGroupRow;
     m_nGroupCol = 0;
+  } else if (m_pColumn != nullptr) {
+    ++m_nColumnRow;
+    m_nColumnCol = 0;
   } else {
     ++m_nRow;
     m_nCol = 0;
@@ -56,8 +61,8 @@ cFormLayout& cFormLayout::Row() {
 }
 
 cFormLayout& cFormLayout::Put(QWidget* w, unsigned id, int span) {
-  int& row = m_pGroup != nullptr ? m_nGroupRow : m_nRow;
-  int& col = m_pGroup != nullptr ? m_nGroupCol : m_nCol;
+  int& row = m_pGroup != nullptr ? m_nGroupRow : m_pColumn != nullptr ? m_nColumnRow : m_nRow;
+  int& col = m_pGroup != nullptr ? m_nGroupCol : m_pColumn != nullptr ? m_nColumnCol : m_nCol;
   if (w != nullptr) {
     Grid()->addWidget(w, row, col, 1, span);
     m_Form.RegisterItem(id, w);
@@ -69,9 +74,11 @@ cFormLayout& cFormLayout::Put(QWidget* w, unsigned id, int span) {
 
 cFormLayout& cFormLayout::Group(const char* title, int span) {
   EndGroup();
-  if (m_nCol != 0) Row();
+  int& row = m_pColumn != nullptr ? m_nColumnRow : m_nRow;
+  int& col = m_pColumn != nullptr ? m_nColumnCol : m_nCol;
+  if (col != 0) ++row, col = 0;
   auto* box = new QGroupBox(Utf8(title), m_pParent);
-  m_pRoot->addWidget(box, m_nRow, 0, 1, span > 0 ? span : -1);
+  (m_pColumn != nullptr ? m_pColumn : m_pRoot)->addWidget(box, row, 0, 1, span > 0 ? span : -1);
   m_pGroup = new QGridLayout(box);
   m_nGroupRow = m_nGroupCol = 0;
   return *this;
@@ -80,8 +87,37 @@ cFormLayout& cFormLayout::Group(const char* title, int span) {
 cFormLayout& cFormLayout::EndGroup() {
   if (m_pGroup == nullptr) return *this;
   m_pGroup = nullptr;
-  m_nCol = 0;
+  int& row = m_pColumn != nullptr ? m_nColumnRow : m_nRow;
+  int& col = m_pColumn != nullptr ? m_nColumnCol : m_nCol;
+  col = 0;
+  ++row;
+  return *this;
+}
+
+cFormLayout& cFormLayout::Column() {
+  EndGroup();
+  if (m_pBand == nullptr) {
+    if (m_nCol != 0) Row();
+    m_pBand = new QHBoxLayout;
+    m_pRoot->addLayout(m_pBand, m_nRow, 0, 1, -1);
+  } else {
+    // What a column leaves below its cells stays empty rather than spreading them.
+    m_pColumn->setRowStretch(m_nColumnRow + 1, 1);
+  }
+  m_pColumn = new QGridLayout;
+  m_pBand->addLayout(m_pColumn, 1);
+  m_nColumnRow = m_nColumnCol = 0;
+  return *this;
+}
+
+cFormLayout& cFormLayout::EndColumns() {
+  EndGroup();
+  if (m_pBand == nullptr) return *this;
+  m_pColumn->setRowStretch(m_nColumnRow + 1, 1);
+  m_pBand = nullptr;
+  m_pColumn = nullptr;
   ++m_nRow;
+  m_nCol = 0;
   return *this;
 }
 
@@ -174,7 +210,7 @@ cFormLayout& cFormLayout::Widget(unsigned id, const std::function<QWidget*(QWidg
 }
 
 cFormLayout& cFormLayout::OkCancel(bool cancel) {
-  EndGroup();
+  EndColumns();
   if (m_nCol != 0) Row();
   auto* cell = new QWidget(m_pParent);
   auto* row = new QHBoxLayout(cell);

@@ -12,6 +12,7 @@
 
 class DLG_CLASS;
 class QGridLayout;
+class QHBoxLayout;
 class QWidget;
 
 class cFormLayout {
@@ -26,6 +27,11 @@ class cFormLayout {
   // A titled box that takes the rest of the row; its cells are a grid of their own until EndGroup.
   cFormLayout& Group(const char* title, int span = 0);
   cFormLayout& EndGroup();
+  // Side by side columns from the current row: the first call opens the band and its
+  // first column, each further call the next column at the right; each column is a grid
+  // of its own, with its own groups. EndColumns (and the OK row) close the band.
+  cFormLayout& Column();
+  cFormLayout& EndColumns();
   // Leaves a cell empty.
   cFormLayout& Skip(int span = 1);
 
@@ -61,4 +67,8 @@ class cFormLayout {
   int m_nRow = 0, m_nCol = 0;
   int m_nGroupRow = 0, m_nGroupCol = 0;
   QWidget* m_pLast = nullptr;
+  // The band of columns and the column being filled; null outside a band.
+  QHBoxLayout* m_pBand = nullptr;
+  QGridLayout* m_pColumn = nullptr;
+  int m_nColumnRow = 0, m_nColumnCol = 0;
 };

@@ -57,6 +57,8 @@ cFormTable& cFormTable::AddPlace(eKind kind, const char* text, int span) {
 cFormTable& cFormTable::Row() { return AddPlace(eKind::kRow); }
 cFormTable& cFormTable::Group(const char* title) { return AddPlace(eKind::kGroup, title); }
 cFormTable& cFormTable::EndGroup() { return AddPlace(eKind::kEndGroup); }
+cFormTable& cFormTable::Column() { return AddPlace(eKind::kColumn); }
+cFormTable& cFormTable::EndColumns() { return AddPlace(eKind::kEndColumns); }
 cFormTable& cFormTable::Text(const char* text, int span) { return AddPlace(eKind::kText, text, span); }
 cFormTable& cFormTable::Skip(int span) { return AddPlace(eKind::kSkip, "", span); }
 cFormTable& cFormTable::OkCancel() { return AddPlace(eKind::kOkCancel); }
@@ -204,6 +206,14 @@ void cFormTable::Layout(cFormLayout& L, const std::string& formTitle) const {
         break;
       case eKind::kEndGroup:
         L.EndGroup();
+        group.clear();
+        break;
+      case eKind::kColumn:
+        L.Column();
+        group.clear();
+        break;
+      case eKind::kEndColumns:
+        L.EndColumns();
         group.clear();
         break;
       case eKind::kText: L.Text(e.text.c_str(), e.span); break;

@@ -56,6 +56,10 @@ class cFormTable {
   // A titled box that takes the rest of the row; its cells are a grid of their own.
   cFormTable& Group(const char* title);
   cFormTable& EndGroup();
+  // Columns side by side from here: each call starts the next column at the right of
+  // the last; EndColumns, or the OK row, closes them.
+  cFormTable& Column();
+  cFormTable& EndColumns();
   // A fixed text without an id, and an empty cell.
   cFormTable& Text(const char* text, int span = 1);
   cFormTable& Skip(int span = 1);
@@ -141,7 +145,9 @@ class cFormTable {
   bool Empty() const { return m_vecEntry.empty(); }
 
  private:
-  enum class eKind : std::uint8_t { kControl, kRow, kGroup, kEndGroup, kText, kSkip, kOkCancel, kOkOnly };
+  enum class eKind : std::uint8_t {
+    kControl, kRow, kGroup, kEndGroup, kColumn, kEndColumns, kText, kSkip, kOkCancel, kOkOnly
+  };
   struct cEntry {
     eKind kind = eKind::kControl;
     eFormWidget widget = eFormWidget::kLabel;

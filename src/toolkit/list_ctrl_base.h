@@ -46,8 +46,11 @@ enum eListIdSet : int {
   kListSecondFixed,
   kListThirdFree,
   kListThirdFixed,
+  // A list whose rows follow another table (one per element, per skill list): no
+  // editing command reaches it, since the next repair would undo the edit.
+  kListNoEdit,
 };
-extern const cListIdSet kListIdSets[6];
+extern const cListIdSet kListIdSets[7];
 
 // A rectangle in the co-ordinates of the point given to HitTest.
 struct cListRect {

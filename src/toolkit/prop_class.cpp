@@ -139,6 +139,7 @@ void PROP_CLASS::Close() {
   m_bClosed = true;
   for (DLG_CLASS* page : m_vecPage)
     if (page->m_hWnd) page->End(0);
+  OnEnd();
   m_hWnd->hide();
   // The registry deletes the sheet once Qt has left the handler that closed it.
   QTimer::singleShot(0, [] {

@@ -42,12 +42,13 @@ class PROP_CLASS {
   void Ok();
   void Cancel();
   void Apply();
-  // Apply of every page that has its window.
-  void ApplyPages();
+  // Apply of every page that has its window; a sheet adds what its apply does beyond.
+  virtual void ApplyPages();
   void Changed();
   bool ApplyEnabled() const;
-  // Ends the sheet: each page's OnDestroy, then the window goes.
+  // Ends the sheet: each page's OnDestroy, the sheet's OnEnd, then the window goes.
   void Close();
+  virtual void OnEnd() {}
   bool IsOpen() const { return m_hWnd != nullptr && !m_bClosed; }
 
   int m_nType = 0;

@@ -96,6 +96,11 @@ void cListWidget::mousePressEvent(QMouseEvent* e) {
   QListWidget::mousePressEvent(e);
 }
 
+void cListWidget::mouseDoubleClickEvent(QMouseEvent* e) {
+  QListWidget::mouseDoubleClickEvent(e);
+  if (e->button() == Qt::LeftButton && itemAt(e->position().toPoint()) != nullptr && onDoubleClick) onDoubleClick();
+}
+
 void cListWidget::mouseReleaseEvent(QMouseEvent* e) {
   if (e->button() == Qt::RightButton) {
     e->ignore();  // the form opens the menu

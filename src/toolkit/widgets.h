@@ -75,9 +75,11 @@ class cListWidget : public QListWidget {
   std::function<void()> onSelChange;
   std::function<void(bool focus)> onFocus;
   std::function<void(int top)> onScrolled;
+  std::function<void()> onDoubleClick;  // on a row
 
  protected:
   void mousePressEvent(QMouseEvent* e) override;
+  void mouseDoubleClickEvent(QMouseEvent* e) override;
   void mouseReleaseEvent(QMouseEvent* e) override;
   void focusInEvent(QFocusEvent* e) override;
   void focusOutEvent(QFocusEvent* e) override;

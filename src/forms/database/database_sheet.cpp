@@ -1,0 +1,109 @@
+#include "forms/database/database_sheet.h"
+
+#include <vector>
+
+#include "forms/database/db_class_page.h"
+#include "platform/cp932.h"
+#include "platform/diagnostics.h"
+#include "project/project_files.h"
+
+namespace {
+
+template <class Page>
+std::unique_ptr<cDatabasePage> Make() {
+  return std::make_unique<Page>();
+}
+
+constexpr cDatabasePageRow kPages[kDatabasePageCount] = {
+    {"クラス", 2, Make<DLG_DBCLASS>},
+    {"味方キャラ", 1, nullptr},
+    {"敵キャラ", 1, nullptr},
+    {"スキル", 2, nullptr},
+    {"相性タイプ", 0, nullptr},
+    {"地形", 2, nullptr},
+    {"パーティー変数", 0, nullptr},
+    {"キャラアニメ", 0, nullptr},
+    {"エフェクトアニメ", 0, nullptr},
+    {"ピクチャー", 0, nullptr},
+    {"バック", 1, nullptr},
+    {"効果音", 1, nullptr},
+    {"BGM", 1, nullptr},
+    {"ヘルプ", 1, nullptr},
+    {"ワールドチップ", 0, nullptr},
+    {"システム1", 0, nullptr},
+    {"システム2", 0, nullptr},
+    {"システム3", 0, nullptr},
+    {"システム4", 0, nullptr},
+    {"システム5", 0, nullptr},
+    {"システム6", 0, nullptr},
+    {"システム7", 0, nullptr},
+    {"システム8", 0, nullptr},
+    {"システム9", 0, nullptr},
+    {"システム10", 0, nullptr},
+};
+
+constexpr int kCommitOrder[kDatabasePageCount] = {15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 5, 3, 4,
+                                                  0,  1,  2,  6,  7,  8,  9,  10, 11, 12, 13, 14};
+
+PROP_DATABASE* g_pOpenSheet = nullptr;
+
+}  // namespace
+
+std::span<const cDatabasePageRow> DatabasePageRows() { return kPages; }
+std::span<const int> DatabaseCommitOrder() { return kCommitOrder; }
+
+std::string DatabaseTabText(const cDatabasePageRow& row) {
+  std::string pad;
+  for (int i = 0; i < row.pad; ++i) pad += "\u3000";
+  return pad + row.caption + pad;
+}
+
+PROP_DATABASE::PROP_DATABASE() {
+  for (int row = 0; row < kDatabasePageCount; ++row) {
+    if (kPages[row].make == nullptr) continue;
+    m_aPage[static_cast<std::size_t>(row)] = kPages[row].make().release();
+    AddPage(m_aPage[static_cast<std::size_t>(row)], DatabaseTabText(kPages[row]).c_str());
+  }
+}
+
+cDatabasePage* PROP_DATABASE::PageOfRow(int row) const {
+  return row >= 0 && row < kDatabasePageCount ? m_aPage[static_cast<std::size_t>(row)] : nullptr;
+}
+
+void PROP_DATABASE::ApplyPages() {
+  PROP_CLASS::ApplyPages();
+  SaveAllDatabase(*this);
+}
+
+void PROP_DATABASE::OnEnd() {
+  if (g_pOpenSheet == this) g_pOpenSheet = nullptr;
+  if (m_onEnd) m_onEnd();
+}
+
+int SaveAllDatabase(PROP_DATABASE& sheet) {
+  // A repair that reads another table sees it committed on the second round.
+  for (int round = 0; round < 2; ++round)
+    for (int row : kCommitOrder)
+      if (cDatabasePage* page = sheet.PageOfRow(row)) page->CommitPage();
+  for (int row = 0; row < kDatabasePageCount; ++row)
+    if (cDatabasePage* page = sheet.PageOfRow(row)) page->m_bStale = true;
+  std::vector<std::string> unsaved;
+  if (SaveAllDatabaseFiles(&unsaved)) return 1;
+  std::string names;
+  for (const std::string& path : unsaved) names += path + "\n";
+  MesBox(sheet.m_hWnd.data(), names + CP932_TEXT("を保存できませんでした。\n他のプログラムが使用していないか、書き込みできるかを確かめて下さい。"),
+         CP932_TEXT("保存の失敗"), MB_OK);
+  return 0;
+}
+
+PROP_DATABASE* OpenDatabaseSheet(QWidget* parent, std::function<void()> onEnd) {
+  if (g_pOpenSheet != nullptr) return nullptr;
+  auto* sheet = new PROP_DATABASE;
+  sheet->m_onEnd = std::move(onEnd);
+  if (!sheet->Create(parent, "データベースの設定")) {
+    delete sheet;
+    return nullptr;
+  }
+  g_pOpenSheet = sheet;  // the window registry owns it from here
+  return sheet;
+}
