@@ -105,7 +105,7 @@ cFormLayout& cFormLayout::Column() {
     m_pColumn->setRowStretch(m_nColumnRow + 1, 1);
   }
   m_pColumn = new QGridLayout;
-  m_pBand->addLayout(m_pColumn, 1);
+  m_pBand->addLayout(m_pColumn);
   m_nColumnRow = m_nColumnCol = 0;
   return *this;
 }

@@ -30,6 +30,12 @@ std::string AccessibleText(const std::string& label) {
   return out;
 }
 
+int cFormTable::DigitsOf(double value) {
+  int digits = value < 0 ? 2 : 1;
+  for (double v = value < 0 ? -value : value; v >= 10; v /= 10) ++digits;
+  return digits;
+}
+
 cFormTable::cEntry& cFormTable::Last() { return m_vecEntry[static_cast<std::size_t>(m_nLastControl)]; }
 
 cFormTable& cFormTable::Add(eFormWidget widget, unsigned id, const char* text, std::unique_ptr<CTRL_CLASS> ctrl,
@@ -168,7 +174,15 @@ void cFormTable::PutControl(cFormLayout& L, const cEntry& e, const std::string& 
   }
   const char* text = e.text.c_str();
   switch (e.widget) {
-    case eFormWidget::kEditVal: L.EditVal(e.id, e.partnerId, e.span); break;
+    case eFormWidget::kEditVal: {
+      L.EditVal(e.id, e.partnerId, e.span);
+      // As wide as its widest number, so that a column of them neither clips nor sprawls.
+      QWidget* edit = L.Last();
+      const int width = edit->fontMetrics().horizontalAdvance(QString(e.nDigits + 1, QLatin1Char('0'))) + 14;
+      edit->setMinimumWidth(width);
+      edit->setMaximumWidth(width + 8);
+      break;
+    }
     case eFormWidget::kEditStr: L.EditStr(e.id, e.nLines, e.span); break;
     case eFormWidget::kCheck: L.Check(e.id, text, e.span); break;
     case eFormWidget::kCombo: L.Combo(e.id, e.span); break;

@@ -26,6 +26,7 @@
 // and the label's text without its access key is the control's accessible name; a
 // control without a label of its own is named by its group's title.
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -75,7 +76,9 @@ class cFormTable {
   cFormTable& EditVal(unsigned id, const char* label, T* field, T min, T max, T step = 1, unsigned spinId = 0) {
     auto c = std::make_unique<CTRL_EDITVAL_CLASS<T>>();
     c->m_Init = {static_cast<std::uint16_t>(id), field, min, max, static_cast<std::uint16_t>(spinId), step};
-    return Add(eFormWidget::kEditVal, id, label, std::move(c), spinId);
+    Add(eFormWidget::kEditVal, id, label, std::move(c), spinId);
+    Last().nDigits = std::max(DigitsOf(static_cast<double>(min)), DigitsOf(static_cast<double>(max)));
+    return *this;
   }
   // `init` gives the limits; its id and field are these.
   cFormTable& EditStr(unsigned id, const char* label, std::string* field, cEditStrInit init = {});
@@ -157,6 +160,7 @@ class cFormTable {
     int span = 1;
     int nLines = 1;
     int width = 0, height = 0;
+    int nDigits = 0;  // the widest number a number edit takes, in characters
     bool labelAbove = false;
     std::unique_ptr<CTRL_CLASS> ctrl;  // null for lists and views
     std::function<bool(DLG_CLASS&)> bindList;
@@ -169,6 +173,8 @@ class cFormTable {
                   unsigned partnerId = 0);
   cFormTable& AddPlace(eKind kind, const char* text = "", int span = 1);
   cEntry& Last();
+  // Characters of a number's widest form, its sign included.
+  static int DigitsOf(double value);
   void PutControl(cFormLayout& L, const cEntry& e, const std::string& fallbackName) const;
   template <class T>
   static bool BindListOf(DLG_CLASS& form, CTRL_LIST_CLASS<T>& list, const cListInit<T>& init, eListIdSet set);

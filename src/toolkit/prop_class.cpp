@@ -50,6 +50,7 @@ bool PROP_CLASS::Create(QWidget* parent, const char* caption) {
   window->setWindowTitle(QString::fromUtf8(caption));
   m_hWnd = window;
   auto* column = new QVBoxLayout(window);
+  column->setContentsMargins(6, 6, 6, 6);  // the tabs frame the pages already
   m_pTabs = new QTabWidget(window);
   column->addWidget(m_pTabs);
   m_vecHolder.clear();

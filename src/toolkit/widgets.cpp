@@ -96,6 +96,8 @@ void cListWidget::mousePressEvent(QMouseEvent* e) {
   QListWidget::mousePressEvent(e);
 }
 
+QSize cListWidget::sizeHint() const { return {200, QListWidget::sizeHint().height()}; }
+
 void cListWidget::mouseDoubleClickEvent(QMouseEvent* e) {
   QListWidget::mouseDoubleClickEvent(e);
   if (e->button() == Qt::LeftButton && itemAt(e->position().toPoint()) != nullptr && onDoubleClick) onDoubleClick();

@@ -76,6 +76,9 @@ class cListWidget : public QListWidget {
   std::function<void(bool focus)> onFocus;
   std::function<void(int top)> onScrolled;
   std::function<void()> onDoubleClick;  // on a row
+  // Narrower than Qt's own default: forms set lists beside their fields, and a long
+  // row scrolls.
+  QSize sizeHint() const override;
 
  protected:
   void mousePressEvent(QMouseEvent* e) override;

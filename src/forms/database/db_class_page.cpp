@@ -57,7 +57,7 @@ DLG_DBCLASS::DLG_DBCLASS() : cTablePage(g_vecClass, "クラス", {1, 1, 999}) {
     F.EditVal(kInit + s, kSystemStatusLabels[s], &E.m_anInit[s], 0, 999999);
     F.EditVal(kFinal + s, "", &E.m_anFinal[s], 0, 999999).Row();
   }
-  F.Text("※最終値が「0」なら、初期値と同じ（成長しない）。\nさらにランダム能力値成長の対象外となる", 3).Row();
+  F.Text("※最終値が「0」なら、初期値と同じ\n（成長しない）。さらにランダム能力値\n成長の対象外となる", 3).Row();
   F.EndGroup();
   F.Group("通常攻撃");
   F.Combo(kAtkList, "通常攻撃", &E.m_nAtkList, &m_vecListNames).DisableBy(kNoAttack).Row();
@@ -85,7 +85,7 @@ DLG_DBCLASS::DLG_DBCLASS() : cTablePage(g_vecClass, "クラス", {1, 1, 999}) {
       .LabelAbove()
       .Row();
   F.Button(kOrgSlotEdit, "編集").Row();
-  F.Text("※スキルグループの設定で「スロット数とカテゴリーの制限有り」にしないと反映されない").Row();
+  F.Text("※スキルグループの設定で「スロット数と\nカテゴリーの制限有り」にしないと反映されない").Row();
   F.EndColumns();
 
   FillAttackLists();
