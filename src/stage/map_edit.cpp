@@ -354,21 +354,23 @@ void PushUndo() {
   g_pHost->UpdateCommands();
 }
 
-void Undo() {
-  if (!ES().m_History.CanUndo()) return;
-  ES().m_History.Undo(Snapshot(), Depth());
+namespace {
+
+// A step back or forward marks the stage, as any edit does.
+void StepHistory(bool redo) {
+  cUndoHistory& history = ES().m_History;
+  if (!(redo ? history.CanRedo() : history.CanUndo())) return;
+  if (redo) history.Redo(Snapshot(), Depth());
+  else history.Undo(Snapshot(), Depth());
   g_pHost->UpdateCommands();
   g_pHost->RefreshPalette();
   ES().m_bStageModified = 1;
 }
 
-void Redo() {
-  if (!ES().m_History.CanRedo()) return;
-  ES().m_History.Redo(Snapshot(), Depth());
-  g_pHost->UpdateCommands();
-  g_pHost->RefreshPalette();
-  ES().m_bStageModified = 1;
-}
+}  // namespace
+
+void Undo() { StepHistory(false); }
+void Redo() { StepHistory(true); }
 
 void ClearHistory() {
   ES().m_History.Clear();
