@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QLabel>
 #include <QTest>
@@ -100,6 +101,21 @@ TEST_F(StageEditorTest, CommandsFollowTheOpenStageAndSpaceChangesThePalette) {
   m_prompt.files = {{(m_dir / "data/stg/Mine.stg2").string()}};
   Tool(IDM_SAVE)->trigger();
   EXPECT_EQ(m_view->windowTitle(), QStringLiteral("オルタルーン  data\\stg\\Mine.stg2"));
+}
+
+TEST_F(StageEditorTest, TheDatabaseSheetTakesThePlaceOfTheStageEditorUntilItCloses) {
+  Menu(IDM_DATABASE)->trigger();
+  EXPECT_FALSE(m_view->isVisible());
+  EXPECT_FALSE(m_view->Dlg()->Chip()->isVisible());
+  QWidget* sheet = nullptr;
+  for (QWidget* w : QApplication::topLevelWidgets())
+    if (w->isVisible() && w->windowTitle() == QStringLiteral("データベースの設定")) sheet = w;
+  ASSERT_NE(sheet, nullptr);
+  sheet->close();
+  QTest::qWait(1);
+  EXPECT_TRUE(m_view->isVisible());
+  EXPECT_TRUE(m_view->Dlg()->Chip()->isVisible());
+  EXPECT_EQ(m_prompt.beeps, 0);
 }
 
 TEST_F(StageEditorTest, LeavingWithChangesAsksAndCancelKeepsTheWindowAndTheFlags) {
