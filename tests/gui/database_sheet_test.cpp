@@ -15,6 +15,7 @@
 
 #include "forms/database/database_sheet.h"
 #include "forms/database/db_class_page.h"
+#include "forms/database/db_land_page.h"
 #include "gui/app_test_support.h"
 #include "gui/form_probe.h"
 #include "platform/cp932.h"
@@ -115,6 +116,31 @@ TEST_F(DatabaseSheetTest, AResistanceIsEditedThroughTheNumberFormAndReachesTheRo
   List(DLG_DBCLASS::kResist)->setCurrentRow(List(DLG_DBCLASS::kResist)->count() - 1);
   m_pClass->SendCommand(DLG_DBCLASS::kResistEdit, kNotifyClicked);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(DatabaseSheetTest, TheTerrainPageClearsARowToItsDefaultsAndShowsItsChip) {
+  auto* land = dynamic_cast<DLG_DBLAND*>(m_pSheet->PageOfRow(5));
+  ASSERT_NE(land, nullptr);
+  m_pSheet->SetCurrentPage(1);  // the second page of those the program has
+  EXPECT_EQ(ProbeOpenForm(*land), std::vector<std::string>{});
+  auto* rows = static_cast<QListWidget*>(land->GetDlgItem(DLG_DBLAND::kList));
+  EXPECT_EQ(rows->count(), g_vecLand.Count() + 1) << "terrain rows start at 0";
+
+  land->m_vecWork[2].m_nMoveCost = 7;
+  land->m_vecWork[2].m_vecElemRate[1] = 5;
+  rows->setCurrentRow(2);
+  land->SendCommand(DLG_DBLAND::kIdClear, kNotifyClicked);
+  EXPECT_EQ(land->m_vecWork[2].m_nMoveCost, 1);
+  EXPECT_EQ(land->m_vecWork[2].m_vecElemRate[1], 100) << "rates of 100, not zeros";
+
+  // A new graphic number shows its chip at once.
+  auto* chip = land->GetCtrl<CTRL_PICTURE_CLASS>(DLG_DBLAND::kChip);
+  const auto before = chip->m_Surface.m_vecBits;
+  auto* graphic = static_cast<QLineEdit*>(land->GetDlgItem(DLG_DBLAND::kGraphic));
+  graphic->setFocus();
+  graphic->selectAll();
+  QTest::keyClicks(graphic, g_vecLand[2].m_nGraphic == 9 ? "10" : "9");
+  EXPECT_NE(chip->m_Surface.m_vecBits, before);
 }
 
 TEST_F(DatabaseSheetTest, AFileThatCannotBeWrittenIsNamedToTheUser) {

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "forms/database/db_class_page.h"
+#include "forms/database/db_land_page.h"
 #include "platform/cp932.h"
 #include "platform/diagnostics.h"
 #include "project/project_files.h"
@@ -20,7 +21,7 @@ constexpr cDatabasePageRow kPages[kDatabasePageCount] = {
     {"敵キャラ", 1, nullptr},
     {"スキル", 2, nullptr},
     {"相性タイプ", 0, nullptr},
-    {"地形", 2, nullptr},
+    {"地形", 2, Make<DLG_DBLAND>},
     {"パーティー変数", 0, nullptr},
     {"キャラアニメ", 0, nullptr},
     {"エフェクトアニメ", 0, nullptr},
