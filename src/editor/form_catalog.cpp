@@ -4,6 +4,7 @@
 
 #include "editor/dlg_battle_mode.h"
 #include "editor/dlg_testplay.h"
+#include "forms/database/db_compati_page.h"
 #include "forms/database/sense_form.h"
 #include "forms/database/slot_forms.h"
 #include "forms/graphic_chooser.h"
@@ -33,6 +34,7 @@ std::vector<unsigned char> AskedBytes() {
 // The records the sub-forms of the database pages edit stand for a page's row.
 cSlot g_Slot;
 cOrgSlotList g_OrgSlot;
+cInfl g_Infl;
 VECTOR_CLASS<std::int32_t> g_vecSense{3, 0, 7};
 
 std::vector<unsigned char> SenseBytes() {
@@ -66,6 +68,7 @@ const std::vector<cFormCatalogEntry>& FormCatalog() {
       {"DLG_SELECTGRAPHIC", [] { return std::make_unique<DLG_SELECTGRAPHIC>(2, &g_nAskedValue, nullptr); }, AskedBytes},
       {"DLG_SLOT", [] { return std::make_unique<DLG_SLOT>(g_Slot, 0); }, [] { return SavedBytes(g_Slot); }},
       {"DLG_ORGSLOT", [] { return std::make_unique<DLG_ORGSLOT>(g_OrgSlot, 0); }, [] { return SavedBytes(g_OrgSlot); }},
+      {"DLG_INFL", [] { return std::make_unique<DLG_INFL>(g_Infl); }, [] { return SavedBytes(g_Infl); }},
       {"DLG_SENSE", [] { return std::make_unique<DLG_SENSE>(g_vecSense, 0); }, SenseBytes},
   };
   return catalog;

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -15,7 +16,10 @@
 
 #include "forms/database/database_sheet.h"
 #include "forms/database/db_class_page.h"
+#include "forms/database/db_compati_page.h"
 #include "forms/database/db_land_page.h"
+#include "forms/database/db_small_pages.h"
+#include "kernel/record_vector_file.h"
 #include "gui/app_test_support.h"
 #include "gui/form_probe.h"
 #include "platform/cp932.h"
@@ -74,6 +78,15 @@ class DatabaseSheetTest : public TemplateProjectTest {
   int m_ends = 0;
 };
 
+// The page of table row `row`, brought to the front.
+template <class Page>
+Page* ShowPage(PROP_DATABASE& sheet, int row) {
+  auto* page = dynamic_cast<Page*>(sheet.PageOfRow(row));
+  for (int i = 0; i < sheet.m_vecPage.Count(); ++i)
+    if (sheet.m_vecPage[i] == page) sheet.SetCurrentPage(i);
+  return page;
+}
+
 TEST_F(DatabaseSheetTest, TheClassPageComesFirstWithItsPaddedTabAndEveryControlNamed) {
   auto* tabs = m_pSheet->m_hWnd->findChild<QTabWidget*>();
   ASSERT_NE(tabs, nullptr);
@@ -119,9 +132,8 @@ TEST_F(DatabaseSheetTest, AResistanceIsEditedThroughTheNumberFormAndReachesTheRo
 }
 
 TEST_F(DatabaseSheetTest, TheTerrainPageClearsARowToItsDefaultsAndShowsItsChip) {
-  auto* land = dynamic_cast<DLG_DBLAND*>(m_pSheet->PageOfRow(5));
+  auto* land = ShowPage<DLG_DBLAND>(*m_pSheet, 5);
   ASSERT_NE(land, nullptr);
-  m_pSheet->SetCurrentPage(1);  // the second page of those the program has
   EXPECT_EQ(ProbeOpenForm(*land), std::vector<std::string>{});
   auto* rows = static_cast<QListWidget*>(land->GetDlgItem(DLG_DBLAND::kList));
   EXPECT_EQ(rows->count(), g_vecLand.Count() + 1) << "terrain rows start at 0";
@@ -141,6 +153,44 @@ TEST_F(DatabaseSheetTest, TheTerrainPageClearsARowToItsDefaultsAndShowsItsChip) 
   graphic->selectAll();
   QTest::keyClicks(graphic, g_vecLand[2].m_nGraphic == 9 ? "10" : "9");
   EXPECT_NE(chip->m_Surface.m_vecBits, before);
+}
+
+TEST_F(DatabaseSheetTest, ARuleInsertedAndCancelledLeavesTheListAsItWas) {
+  auto* types = ShowPage<DLG_DBSKILLTYPE>(*m_pSheet, 4);
+  ASSERT_NE(types, nullptr);
+  EXPECT_EQ(ProbeOpenForm(*types), std::vector<std::string>{});
+  const int rules = types->m_Edit.m_vecInfl.Count();
+  QTimer::singleShot(0, [] {
+    for (QPushButton* b : QApplication::activeModalWidget()->findChildren<QPushButton*>())
+      if (b->text() == QStringLiteral("キャンセル")) b->click();
+  });
+  types->SendCommand(DLG_DBSKILLTYPE::kInsert, kNotifyClicked);
+  EXPECT_EQ(types->m_Edit.m_vecInfl.Count(), rules);
+  EXPECT_EQ(types->m_vecWork[1].m_vecInfl.Count(), rules);
+}
+
+TEST_F(DatabaseSheetTest, RenamingACommonVariableIsSavedAtOnceAndRowZeroBeeps) {
+  auto* vars = ShowPage<DLG_DB_PTVAL>(*m_pSheet, 6);
+  ASSERT_NE(vars, nullptr);
+  EXPECT_EQ(ProbeOpenForm(*vars), std::vector<std::string>{});
+  const int variable = vars->m_Edit.m_nCommonVar;
+  ASSERT_GT(variable, 0);
+  QTimer::singleShot(0, [] {
+    QWidget* w = QApplication::activeModalWidget();
+    w->findChild<QLineEdit*>()->setText(QStringLiteral("所持金"));
+    for (QPushButton* b : w->findChildren<QPushButton*>())
+      if (b->text() == "OK") b->click();
+  });
+  vars->SendCommand(DLG_DB_PTVAL::kRename, kNotifyClicked);
+  EXPECT_EQ(g_vecGValInfo[variable].m_strName, CP932_TEXT("所持金"));
+  VECTOR_CLASS<cGValInfo> saved;
+  ASSERT_TRUE(LoadVector(saved, kGValInfoPath));
+  EXPECT_EQ(saved[variable].m_strName, CP932_TEXT("所持金")) << "saved without waiting for the apply";
+
+  auto* combo = static_cast<QComboBox*>(vars->GetDlgItem(DLG_DB_PTVAL::kCommonVar));
+  combo->setCurrentIndex(0);
+  vars->SendCommand(DLG_DB_PTVAL::kRename, kNotifyClicked);
+  EXPECT_EQ(m_prompt.beeps, 1);
 }
 
 TEST_F(DatabaseSheetTest, AFileThatCannotBeWrittenIsNamedToTheUser) {

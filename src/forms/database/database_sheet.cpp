@@ -3,7 +3,9 @@
 #include <vector>
 
 #include "forms/database/db_class_page.h"
+#include "forms/database/db_compati_page.h"
 #include "forms/database/db_land_page.h"
+#include "forms/database/db_small_pages.h"
 #include "platform/cp932.h"
 #include "platform/diagnostics.h"
 #include "project/project_files.h"
@@ -20,9 +22,9 @@ constexpr cDatabasePageRow kPages[kDatabasePageCount] = {
     {"味方キャラ", 1, nullptr},
     {"敵キャラ", 1, nullptr},
     {"スキル", 2, nullptr},
-    {"相性タイプ", 0, nullptr},
+    {"相性タイプ", 0, Make<DLG_DBSKILLTYPE>},
     {"地形", 2, Make<DLG_DBLAND>},
-    {"パーティー変数", 0, nullptr},
+    {"パーティー変数", 0, Make<DLG_DB_PTVAL>},
     {"キャラアニメ", 0, nullptr},
     {"エフェクトアニメ", 0, nullptr},
     {"ピクチャー", 0, nullptr},
@@ -30,7 +32,7 @@ constexpr cDatabasePageRow kPages[kDatabasePageCount] = {
     {"効果音", 1, nullptr},
     {"BGM", 1, nullptr},
     {"ヘルプ", 1, nullptr},
-    {"ワールドチップ", 0, nullptr},
+    {"ワールドチップ", 0, Make<DLG_DBWORLDCHIP>},
     {"システム1", 0, nullptr},
     {"システム2", 0, nullptr},
     {"システム3", 0, nullptr},

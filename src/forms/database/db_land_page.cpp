@@ -1,6 +1,7 @@
 #include "forms/database/db_land_page.h"
 
 #include "database/class_rows.h"
+#include "forms/database/sheet_preview.h"
 #include "forms/database/symbol_reference.h"
 #include "forms/database/value_list.h"
 #include "forms/graphic_chooser.h"
@@ -79,10 +80,7 @@ void DLG_DBLAND::UpdateChip() {
   const int graphic = Value(kGraphic);
   if (chip == nullptr || graphic == m_nShownChip) return;
   m_nShownChip = graphic;
-  chip->m_Surface.Fill(0);
-  const long long sx = (graphic % 8) * kMapCellPx, sy = (graphic / 8) * static_cast<long long>(kMapCellPx);
-  BlitSheetCell(chip->m_Surface, 0, 0, g_aSheet[SHEET_MAP_CHIP], sx, sy);
-  chip->Redraw();
+  ShowChipCell(*chip, g_aSheet[SHEET_MAP_CHIP], graphic);
 }
 
 // Runs after every command, once the screen shows the row the command left.
