@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QRegularExpression>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -36,8 +37,11 @@ int cQtPrompt::MessageBox(void* owner, const std::string& text, const std::strin
 void cQtPrompt::Beep() { QApplication::beep(); }
 
 bool cQtPrompt::ChooseFiles(void* owner, const cFileAsk& ask, std::vector<std::string>& out) {
+  // The program's filters list extensions as "*.png;*.bmp"; Qt separates them by blanks.
+  QString filter = QString::fromStdString(ask.filter);
+  filter.replace(QRegularExpression(QStringLiteral("(?<!;);(?!;)")), QStringLiteral(" "));
   QFileDialog dialog(static_cast<QWidget*>(owner), QString::fromStdString(ask.title),
-                     QString::fromStdString(ask.initialDir), QString::fromStdString(ask.filter));
+                     QString::fromStdString(ask.initialDir), filter);
   dialog.setAcceptMode(ask.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(ask.save ? QFileDialog::AnyFile : ask.multi ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
   dialog.setDefaultSuffix(QString::fromStdString(ask.defaultExt));

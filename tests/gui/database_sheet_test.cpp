@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
@@ -18,6 +19,7 @@
 #include "forms/database/db_class_page.h"
 #include "forms/database/db_compati_page.h"
 #include "forms/database/db_land_page.h"
+#include "forms/database/db_media_pages.h"
 #include "forms/database/db_small_pages.h"
 #include "kernel/record_vector_file.h"
 #include "gui/app_test_support.h"
@@ -191,6 +193,39 @@ TEST_F(DatabaseSheetTest, RenamingACommonVariableIsSavedAtOnceAndRowZeroBeeps) {
   combo->setCurrentIndex(0);
   vars->SendCommand(DLG_DB_PTVAL::kRename, kNotifyClicked);
   EXPECT_EQ(m_prompt.beeps, 1);
+}
+
+TEST_F(DatabaseSheetTest, AMusicRowFollowsItsFileNameAndAChosenFileIsStoredRelative) {
+  auto* music = ShowPage<DLG_DB_BGM>(*m_pSheet, 12);
+  ASSERT_NE(music, nullptr);
+  EXPECT_EQ(ProbeOpenForm(*music), std::vector<std::string>{});
+  auto* same = static_cast<QCheckBox*>(music->GetDlgItem(DLG_DB_BGM::kSameName));
+  if (!same->isChecked()) same->click();
+  auto* path = static_cast<QLineEdit*>(music->GetDlgItem(DLG_DB_BGM::kPath));
+  path->setFocus();
+  path->selectAll();
+  QTest::keyClicks(path, "bgm\\battle.ogg");
+  EXPECT_EQ(static_cast<QLineEdit*>(music->GetDlgItem(DLG_DB_BGM::kName))->text(), QStringLiteral("battle"));
+  EXPECT_FALSE(music->GetDlgItem(DLG_DB_BGM::kName)->isEnabled());
+  EXPECT_EQ(music->m_vecWork[1].m_strName, "battle") << "the row follows at once";
+
+  // "参照": the chosen file goes in relative to the project; a cancel changes nothing.
+  m_prompt.files = {{(m_dir / "bgm" / "field.mid").string()}, {}};
+  music->SendCommand(DLG_DB_BGM::kBrowse, kNotifyClicked);
+  EXPECT_EQ(music->m_vecWork[1].m_strPath, "bgm\\field.mid");
+  EXPECT_EQ(music->m_vecWork[1].m_strName, "field");
+  ASSERT_EQ(m_prompt.fileAsks.size(), 1u);
+  EXPECT_EQ(m_prompt.fileAsks[0].title, "BGMの選択");
+  music->SendCommand(DLG_DB_BGM::kBrowse, kNotifyClicked);
+  EXPECT_EQ(music->m_vecWork[1].m_strPath, "bgm\\field.mid");
+
+  // "再生" of a file that cannot be played says so.
+  path->setFocus();
+  path->selectAll();
+  QTest::keyClicks(path, "bgm\\none.txt");
+  music->SendCommand(DLG_DB_BGM::kPlay, kNotifyClicked);
+  ASSERT_EQ(m_prompt.shown.size(), 1u);
+  EXPECT_EQ(m_prompt.shown[0].text, CP932_TEXT("読み込み失敗！"));
 }
 
 TEST_F(DatabaseSheetTest, AFileThatCannotBeWrittenIsNamedToTheUser) {

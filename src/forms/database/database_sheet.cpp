@@ -5,6 +5,7 @@
 #include "forms/database/db_class_page.h"
 #include "forms/database/db_compati_page.h"
 #include "forms/database/db_land_page.h"
+#include "forms/database/db_media_pages.h"
 #include "forms/database/db_small_pages.h"
 #include "platform/cp932.h"
 #include "platform/diagnostics.h"
@@ -17,6 +18,11 @@ std::unique_ptr<cDatabasePage> Make() {
   return std::make_unique<Page>();
 }
 
+template <class Page, const cMediaPageKind& kKind>
+std::unique_ptr<cDatabasePage> MakeMedia() {
+  return std::make_unique<Page>(kKind);
+}
+
 constexpr cDatabasePageRow kPages[kDatabasePageCount] = {
     {"クラス", 2, Make<DLG_DBCLASS>},
     {"味方キャラ", 1, nullptr},
@@ -27,10 +33,10 @@ constexpr cDatabasePageRow kPages[kDatabasePageCount] = {
     {"パーティー変数", 0, Make<DLG_DB_PTVAL>},
     {"キャラアニメ", 0, nullptr},
     {"エフェクトアニメ", 0, nullptr},
-    {"ピクチャー", 0, nullptr},
+    {"ピクチャー", 0, MakeMedia<DLG_DB_PICTURE, kPicturePage>},
     {"バック", 1, nullptr},
-    {"効果音", 1, nullptr},
-    {"BGM", 1, nullptr},
+    {"効果音", 1, MakeMedia<DLG_DB_SOUND, kSoundPage>},
+    {"BGM", 1, MakeMedia<DLG_DB_BGM, kBgmPage>},
     {"ヘルプ", 1, nullptr},
     {"ワールドチップ", 0, Make<DLG_DBWORLDCHIP>},
     {"システム1", 0, nullptr},
