@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -34,6 +35,10 @@ void RunGameWindow(int argc, char** argv, const cGameReport& report, int nSecond
   auto* end = new QPushButton(QStringLiteral("End the test play"), &window);
   QObject::connect(end, &QPushButton::clicked, &window, &QWidget::close);
   layout->addWidget(end);
+  // In the middle of the screen, where it cannot be mistaken for a part of the editor.
+  window.adjustSize();
+  if (const QScreen* screen = QGuiApplication::primaryScreen())
+    window.move(screen->availableGeometry().center() - window.rect().center());
   window.show();
   if (nSeconds >= 0) QTimer::singleShot(nSeconds * 1000, &window, &QWidget::close);
   app.exec();
