@@ -4,6 +4,7 @@
 #include <array>
 #include <vector>
 
+#include "app/test_play.h"
 #include "kernel/record_vector_file.h"
 #include "platform/cp932.h"
 #include "platform/diagnostics.h"
@@ -141,6 +142,8 @@ void Form(int id) {
   if (!Host().RunForm(id)) CurrentPrompt().Beep();
 }
 
+void TestPlay(int) { StartTestPlay(); }
+
 using enum eCommandEnable;
 constexpr int kNone = -1;
 
@@ -166,12 +169,12 @@ constexpr cStageCommand kCommands[] = {
     {IDM_DATABASE, "データベース(&D)", nullptr, nullptr, 0, kAlways, kNone, Form},
     {IDM_START_EVENT, "初期イベント(&E)", nullptr, nullptr, 0, kAlways, kNone, Form},
     {IDM_WORLD_MAP, "ワールドマップ(&W)", nullptr, nullptr, 0, kAlways, kNone, Form},
-    {IDM_TEST_PLAY, "テストプレイ(T)", nullptr, "F5;Ctrl+T", IDM_TEST_PLAY_KEY, kAlways, kNone, Form},
+    {IDM_TEST_PLAY, "テストプレイ(T)", nullptr, "F5;Ctrl+T", IDM_TEST_PLAY_KEY, kAlways, kNone, TestPlay},
     {IDM_TEST_PLAY_SETTINGS, "テストプレイの設定(&E)", nullptr, nullptr, 0, kAlways, kNone, Form},
     {IDT_PALETTE_CHIP, nullptr, "マップチップパレット", nullptr, 0, kStageOpen, PALETTE_CHIP, Palette},
     {IDT_PALETTE_ENEMY, nullptr, "敵パレット", nullptr, 0, kStageOpen, PALETTE_ENEMY, Palette},
     {IDT_PALETTE_EVENT, nullptr, "イベントパレット", nullptr, 0, kStageOpen, PALETTE_EVENT, Palette},
-    {IDT_TEST_PLAY, nullptr, "テストプレイ", nullptr, 0, kAlways, kNone, Form},
+    {IDT_TEST_PLAY, nullptr, "テストプレイ", nullptr, 0, kAlways, kNone, TestPlay},
 };
 
 using enum eMenuRow;

@@ -10,6 +10,7 @@
 #include "editor/dlg_main.h"
 #include "editor/idle_timer.h"
 #include "editor/screenshot.h"
+#include "editor/test_play_watch.h"
 #include "editor/view_main.h"
 #include "stage/edit_state.h"
 #include "stage/map_edit.h"
@@ -53,6 +54,7 @@ int cEditorShell::CreateMainWindow() {
   g_IdleClients.focusMain = FocusMain;
   m_pIdle = std::make_unique<cIdleTimer>();
   m_pIdle->Reconsider();
+  m_pTestPlay = std::make_unique<cTestPlayWatch>();
   // The palette the configuration stored comes up with an open stage.
   if (g_EditState.m_bStageOpen) ChangePalette(g_EditState.m_nPalette);
   m_pView->FocusMain();

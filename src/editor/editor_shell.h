@@ -7,6 +7,7 @@
 
 class VIEW_MAIN;
 class cIdleTimer;
+class cTestPlayWatch;
 
 class cEditorShell : public cAppShell {
  public:
@@ -18,4 +19,5 @@ class cEditorShell : public cAppShell {
 
   std::unique_ptr<VIEW_MAIN> m_pView;
   std::unique_ptr<cIdleTimer> m_pIdle;
+  std::unique_ptr<cTestPlayWatch> m_pTestPlay;
 };

@@ -12,6 +12,8 @@
 #include <memory>
 #include <string>
 
+#include "app/app_frame.h"
+#include "app/stage_commands.h"
 #include "editor/form_catalog.h"
 #include "forms/database/database_sheet.h"
 #include "toolkit/dlg_class.h"
@@ -32,6 +34,22 @@ void Save(QWidget* widget, const std::string& path) {
     std::fprintf(stderr, "ortalune: cannot write %s\n", path.c_str());
 }
 
+// Lets the event loop run for `ms`, for windows to be laid out and painted.
+void Settle(int ms) {
+  QEventLoop settle;
+  QTimer::singleShot(ms, &settle, &QEventLoop::quit);
+  settle.exec();
+}
+
+void SaveWholeScreen(const std::string& path) {
+  QScreen* screen = g_pViewMain->screen();
+  const QPixmap picture = screen != nullptr ? screen->grabWindow(0) : QPixmap();
+  if (picture.save(QString::fromStdString(path), "PNG"))
+    std::fprintf(stderr, "ortalune: wrote %s (%d by %d pixels)\n", path.c_str(), picture.width(), picture.height());
+  else
+    std::fprintf(stderr, "ortalune: cannot write %s\n", path.c_str());
+}
+
 // The whole screen with the main window, its palette and the first menu open, as the
 // user sees them together.
 void SaveScreen(const std::string& path) {
@@ -41,16 +59,28 @@ void SaveScreen(const std::string& path) {
     const QRect item = g_pViewMain->menuBar()->actionGeometry(g_pViewMain->menuBar()->actions().front());
     first->popup(g_pViewMain->menuBar()->mapToGlobal(item.bottomLeft()));
   }
-  QEventLoop settle;
-  QTimer::singleShot(300, &settle, &QEventLoop::quit);
-  settle.exec();
-  QScreen* screen = g_pViewMain->screen();
-  const QPixmap picture = screen != nullptr ? screen->grabWindow(0) : QPixmap();
+  Settle(300);
+  SaveWholeScreen(path);
   if (first != nullptr) first->hide();
-  if (picture.save(QString::fromStdString(path), "PNG"))
-    std::fprintf(stderr, "ortalune: wrote %s (%d by %d pixels)\n", path.c_str(), picture.width(), picture.height());
+}
+
+// A test play as the user starts it. The game program's window needs a moment to come
+// up; its end message arrives in the event loop like any other.
+void SaveTestPlay(const std::string& path) {
+  std::fprintf(stderr, "ortalune: starting a test play, as F5 does\n");
+  g_pViewMain->Command(IDM_TEST_PLAY);
+  if (!bTestPlay) {
+    std::fprintf(stderr, "ortalune: the test play did not start (see the message above)\n");
+    return;
+  }
+  Settle(2500);
+  SaveWholeScreen(path);
+  constexpr int kWaitMs = 30000;
+  for (int waited = 0; bTestPlay && waited < kWaitMs; waited += 100) Settle(100);
+  if (bTestPlay)
+    std::fprintf(stderr, "ortalune: no end message from the game program within %d seconds\n", kWaitMs / 1000);
   else
-    std::fprintf(stderr, "ortalune: cannot write %s\n", path.c_str());
+    std::fprintf(stderr, "ortalune: the game program's end message arrived; the test play is over\n");
 }
 
 void EndRun() {
@@ -64,9 +94,7 @@ void SaveForms(const std::string& folder) {
   for (const cFormCatalogEntry& entry : FormCatalog()) {
     std::unique_ptr<DLG_CLASS> form = entry.make();
     if (!form->Create(0, true)) continue;
-    QEventLoop settle;
-    QTimer::singleShot(300, &settle, &QEventLoop::quit);
-    settle.exec();
+    Settle(300);
     Save(form->m_hWnd, folder + "/" + entry.name + ".png");
     form->SendCommand(kIdCancel, kNotifyClicked);
   }
@@ -88,9 +116,10 @@ void SaveForms(const std::string& folder) {
 bool ScheduleScreenshots() {
   std::string mainPath = EnvPath("ORTALUNE_SCREENSHOT");
   std::string formFolder = EnvPath("ORTALUNE_SCREENSHOT_FORMS");
-  if (mainPath.empty() && formFolder.empty()) return false;
+  std::string testPlayPath = EnvPath("ORTALUNE_SCREENSHOT_TESTPLAY");
+  if (mainPath.empty() && formFolder.empty() && testPlayPath.empty()) return false;
   // Late enough for the window to be laid out and painted.
-  QTimer::singleShot(500, [mainPath, formFolder] {
+  QTimer::singleShot(500, [mainPath, formFolder, testPlayPath] {
     if (!mainPath.empty() && g_pViewMain != nullptr) {
       Save(g_pViewMain, mainPath);
       std::string screen = mainPath;
@@ -98,6 +127,7 @@ bool ScheduleScreenshots() {
       SaveScreen(screen);
     }
     if (!formFolder.empty()) SaveForms(formFolder);
+    if (!testPlayPath.empty() && g_pViewMain != nullptr) SaveTestPlay(testPlayPath);
     EndRun();
   });
   return true;

@@ -1,16 +1,13 @@
 #include "platform/instance_lock.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
 
-std::string cInstanceLock::LockPathOf(std::string_view name) {
-  const char* runtime = std::getenv("XDG_RUNTIME_DIR");
-  if (runtime != nullptr && *runtime != '\0') return std::string(runtime) + "/" + std::string(name) + ".lock";
-  return "/tmp/" + std::string(name) + "-" + std::to_string(::getuid()) + ".lock";
-}
+#include "platform/runtime_path.h"
+
+std::string cInstanceLock::LockPathOf(std::string_view name) { return RuntimeFilePath(name, ".lock"); }
 
 bool cInstanceLock::Acquire(std::string_view name) {
   Release();

@@ -7,9 +7,13 @@ target_sources(ortalune_gui_tests PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/main_window_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/stage_editor_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/testplay_form_test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/test_play_run_test.cpp
 )
 target_compile_definitions(ortalune_gui_tests PRIVATE ORTALUNE_TEMPLATE_DIR="${CMAKE_BINARY_DIR}/share/ortalune/template")
 add_dependencies(ortalune_gui_tests ortalune-template)
+# The test plays start the real stand-in game.
+target_compile_definitions(ortalune_gui_tests PRIVATE ORTALUNE_STANDIN_GAME="$<TARGET_FILE:standin-game>")
+add_dependencies(ortalune_gui_tests standin-game)
 
 # The editor at rest on a virtual display: no processor time over ten seconds.
 add_test(NAME EditorIdleCpu
