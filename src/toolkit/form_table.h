@@ -31,6 +31,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "toolkit/ctrls.h"
@@ -77,7 +78,8 @@ class cFormTable {
     auto c = std::make_unique<CTRL_EDITVAL_CLASS<T>>();
     c->m_Init = {static_cast<std::uint16_t>(id), field, min, max, static_cast<std::uint16_t>(spinId), step};
     Add(eFormWidget::kEditVal, id, label, std::move(c), spinId);
-    Last().nDigits = std::max(DigitsOf(static_cast<double>(min)), DigitsOf(static_cast<double>(max)));
+    Last().nDigits = std::max(DigitsOf(static_cast<double>(min)), DigitsOf(static_cast<double>(max))) +
+                     (std::is_floating_point_v<T> ? 2 : 0);  // the point and a decimal
     return *this;
   }
   // `init` gives the limits; its id and field are these.

@@ -228,6 +228,24 @@ TEST_F(DatabaseSheetTest, AMusicRowFollowsItsFileNameAndAChosenFileIsStoredRelat
   EXPECT_EQ(m_prompt.shown[0].text, CP932_TEXT("読み込み失敗！"));
 }
 
+TEST_F(DatabaseSheetTest, ABackgroundsKindEnablesItsPartsAndTheOthersKeepTheirValues) {
+  auto* backs = ShowPage<DLG_DB_BACK>(*m_pSheet, 10);
+  ASSERT_NE(backs, nullptr);
+  EXPECT_EQ(ProbeOpenForm(*backs), std::vector<std::string>{});
+  auto* kind = static_cast<QComboBox*>(backs->GetDlgItem(DLG_DB_BACK::kKind));
+  backs->m_vecWork[1].m_strPath = "image\\back\\sky.png";
+  static_cast<QListWidget*>(backs->GetDlgItem(DLG_DB_BACK::kList))->setCurrentRow(0);
+  backs->SendCommand(DLG_DB_BACK::kList, kNotifySelChange);  // the row, with its path, into the controls
+  kind->setCurrentIndex(BACKKIND_COLOR);
+  backs->SendCommand(DLG_DB_BACK::kKind, kNotifySelChange);
+  EXPECT_TRUE(backs->GetDlgItem(DLG_DB_BACK::kRed)->isEnabled());
+  EXPECT_FALSE(backs->GetDlgItem(DLG_DB_BACK::kChipW)->isEnabled());
+  EXPECT_FALSE(backs->GetDlgItem(DLG_DB_BACK::kPath)->isEnabled());
+  EXPECT_TRUE(backs->GetDlgItem(DLG_DB_BACK::kScrollX)->isEnabled());
+  EXPECT_EQ(backs->m_vecWork[1].m_nKind, BACKKIND_COLOR);
+  EXPECT_EQ(backs->m_vecWork[1].m_strPath, "image\\back\\sky.png") << "a disabled part keeps its value";
+}
+
 TEST_F(DatabaseSheetTest, AFileThatCannotBeWrittenIsNamedToTheUser) {
   fs::remove(kClassFile);
   fs::create_directory(kClassFile);  // a directory where the file should go

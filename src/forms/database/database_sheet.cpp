@@ -34,7 +34,7 @@ constexpr cDatabasePageRow kPages[kDatabasePageCount] = {
     {"キャラアニメ", 0, nullptr},
     {"エフェクトアニメ", 0, nullptr},
     {"ピクチャー", 0, MakeMedia<DLG_DB_PICTURE, kPicturePage>},
-    {"バック", 1, nullptr},
+    {"バック", 1, Make<DLG_DB_BACK>},
     {"効果音", 1, MakeMedia<DLG_DB_SOUND, kSoundPage>},
     {"BGM", 1, MakeMedia<DLG_DB_BGM, kBgmPage>},
     {"ヘルプ", 1, nullptr},

@@ -11,6 +11,8 @@
 const cMediaPageKind kPicturePage = {"ピクチャー", "image\\picture\\", "画像の選択", "ImageFile ( *.png;*.bmp )",
                                      "png", cMediaPageKind::kNoPlay};
 const cMediaPageKind kSoundPage = {"効果音", "wave", "効果音の選択", "WaveFile ( *.wav )", "wav", cMediaPageKind::kSound};
+const cMediaPageKind kBackPage = {"バック", "image\\back\\", "画像の選択", "ImageFile ( *.png;*.bmp )", "png",
+                                  cMediaPageKind::kNoPlay};
 const cMediaPageKind kBgmPage = {"BGM", "bgm\\", "BGMの選択", "BgmFile ( *.mid;*.ogg )", "mid", cMediaPageKind::kMusic};
 
 namespace {
@@ -107,6 +109,51 @@ template <class R>
 void cMediaPage<R>::OnDestroy() {
   if (m_Kind.play == cMediaPageKind::kMusic) g_Music.Stop();
   if (m_Kind.play == cMediaPageKind::kSound) g_Sound.StopEntry(0);
+}
+
+DLG_DB_BACK::DLG_DB_BACK() : cTablePage(g_Database.m_vecBack, "バック", {1, 1, 999}) {
+  cEdBack& E = m_Edit;
+  // What each kind of background is made of; the scroll speeds serve them all.
+  auto kindIs = [this](int kind) { return [this, kind] { return Value(kKind) == kind; }; };
+  cFormTable& F = Table();
+  F.Column();
+  MainList(kList, "バック", [](const cEdBack& b) { return b.m_strName; }, 20);
+  F.Column();
+  F.EditStr(kName, "名称", &E.m_strName, {.nLimit = 12, .nLineLen = 12, .nMaxLines = 1, .bWide = 1}).Span(3).Row();
+  F.Combo(kKind, "表示タイプ", &E.m_nKind, BACKKIND).Span(3).Row();
+  F.Group("マップチップの幅(横、縦)(dot)");
+  F.EditVal(kChipW, "横", &E.m_nChipW, 1, 640).EnableIf(kindIs(BACKKIND_CHIPS));
+  F.EditVal(kChipH, "縦", &E.m_nChipH, 1, 640).EnableIf(kindIs(BACKKIND_CHIPS)).Row();
+  F.Text("☆横32縦32なら等倍で表示", 4).Row();
+  F.Text("☆ゲーム画面は横640縦480だが、縦も640まで指定可。\n縦をゲーム画面より大きく指定した場合、マップチップは\n画面の中央に寄り、"
+         "マップチップの上下が欠ける（スクロール速度0の場合）",
+         4)
+      .Row();
+  F.EndGroup();
+  F.EditStr(kPath, "画像のパス", &E.m_strPath, {.nLimit = 260, .nLineLen = 260, .nMaxLines = 1})
+      .Span(2)
+      .EnableIf(kindIs(BACKKIND_IMAGE));
+  F.Button(kBrowse, "参照").EnableIf(kindIs(BACKKIND_IMAGE)).Row();
+  F.Group("透過色(R,G,B)");
+  F.EditVal<std::uint8_t>(kRed, "R", &E.m_byRed, 0, 255).EnableIf(kindIs(BACKKIND_COLOR));
+  F.EditVal<std::uint8_t>(kGreen, "G", &E.m_byGreen, 0, 255).EnableIf(kindIs(BACKKIND_COLOR));
+  F.EditVal<std::uint8_t>(kBlue, "B", &E.m_byBlue, 0, 255).EnableIf(kindIs(BACKKIND_COLOR)).Row();
+  F.EndGroup();
+  F.Group("スクロール速度(横、縦)");
+  F.EditVal(kScrollX, "横", &E.m_dScrollX, -64.0, 64.0, 0.1);
+  F.EditVal(kScrollY, "縦", &E.m_dScrollY, -48.0, 48.0, 0.1).Row();
+  F.Text("☆背景画像の幅を割り切れる値にすること", 4).Row();
+  F.EndGroup();
+  F.EndColumns();
+}
+
+void DLG_DB_BACK::OnFormCommand(unsigned id, unsigned code) {
+  if (id == kBrowse) {
+    std::string path = m_Edit.m_strPath;
+    if (BrowseMediaFile(*this, kBackPage, path))
+      if (auto* edit = GetCtrl<CTRL_EDITSTR_CLASS>(kPath)) edit->SetText(path);
+  }
+  cTablePage::OnFormCommand(id, code);
 }
 
 template class cMediaPage<cEdPicture>;

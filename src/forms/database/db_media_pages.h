@@ -36,7 +36,19 @@ using DLG_DB_PICTURE = cMediaPage<cEdPicture>;
 using DLG_DB_SOUND = cMediaPage<cEdSound>;
 using DLG_DB_BGM = cMediaPage<cEdBgm>;
 
-extern const cMediaPageKind kPicturePage, kSoundPage, kBgmPage;
+extern const cMediaPageKind kPicturePage, kSoundPage, kBgmPage, kBackPage;
+
+// DLG_DB_BACK, page 10: the backgrounds, tiled chips, an image or a colour.
+class DLG_DB_BACK : public cTablePage<cEdBack> {
+ public:
+  enum : unsigned {
+    kList = 1520, kName, kKind, kChipW, kChipH, kPath, kBrowse, kRed, kGreen, kBlue, kScrollX, kScrollY,
+  };
+  DLG_DB_BACK();
+
+ protected:
+  void OnFormCommand(unsigned id, unsigned code) override;
+};
 
 // "参照" of a page: the file chosen, made relative to the project, into `stored` (CP932,
 // "\"). False when cancelled or when the file has no relative form; `stored` then stays.
