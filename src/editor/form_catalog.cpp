@@ -5,6 +5,7 @@
 #include "editor/dlg_battle_mode.h"
 #include "editor/dlg_testplay.h"
 #include "forms/database/db_compati_page.h"
+#include "forms/database/db_help_page.h"
 #include "forms/database/sense_form.h"
 #include "forms/database/slot_forms.h"
 #include "forms/graphic_chooser.h"
@@ -35,6 +36,7 @@ std::vector<unsigned char> AskedBytes() {
 cSlot g_Slot;
 cOrgSlotList g_OrgSlot;
 cInfl g_Infl;
+cEdHelpText g_HelpText;
 VECTOR_CLASS<std::int32_t> g_vecSense{3, 0, 7};
 
 std::vector<unsigned char> SenseBytes() {
@@ -69,6 +71,7 @@ const std::vector<cFormCatalogEntry>& FormCatalog() {
       {"DLG_SLOT", [] { return std::make_unique<DLG_SLOT>(g_Slot, 0); }, [] { return SavedBytes(g_Slot); }},
       {"DLG_ORGSLOT", [] { return std::make_unique<DLG_ORGSLOT>(g_OrgSlot, 0); }, [] { return SavedBytes(g_OrgSlot); }},
       {"DLG_INFL", [] { return std::make_unique<DLG_INFL>(g_Infl); }, [] { return SavedBytes(g_Infl); }},
+      {"DLG_TEXT", [] { return std::make_unique<DLG_TEXT>(g_HelpText); }, [] { return SavedBytes(g_HelpText); }},
       {"DLG_SENSE", [] { return std::make_unique<DLG_SENSE>(g_vecSense, 0); }, SenseBytes},
   };
   return catalog;

@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
@@ -18,6 +19,7 @@
 #include "forms/database/database_sheet.h"
 #include "forms/database/db_class_page.h"
 #include "forms/database/db_compati_page.h"
+#include "forms/database/db_help_page.h"
 #include "forms/database/db_land_page.h"
 #include "forms/database/db_media_pages.h"
 #include "forms/database/db_small_pages.h"
@@ -169,6 +171,30 @@ TEST_F(DatabaseSheetTest, ARuleInsertedAndCancelledLeavesTheListAsItWas) {
   types->SendCommand(DLG_DBSKILLTYPE::kInsert, kNotifyClicked);
   EXPECT_EQ(types->m_Edit.m_vecInfl.Count(), rules);
   EXPECT_EQ(types->m_vecWork[1].m_vecInfl.Count(), rules);
+}
+
+TEST_F(DatabaseSheetTest, AHelpPageWrittenInItsFormShowsItsFirstLineAndAnInsertCancelledIsGone) {
+  auto* help = ShowPage<DLG_DB_HELP>(*m_pSheet, 13);
+  ASSERT_NE(help, nullptr);
+  EXPECT_EQ(ProbeOpenForm(*help), std::vector<std::string>{});
+  const int pages = help->m_Edit.m_vecText.Count();
+  QTimer::singleShot(0, [] {
+    QWidget* w = QApplication::activeModalWidget();
+    w->findChild<QPlainTextEdit*>()->setPlainText(QStringLiteral("一行目\n二行目"));
+    for (QPushButton* b : w->findChildren<QPushButton*>())
+      if (b->text() == "OK") b->click();
+  });
+  help->SendCommand(DLG_DB_HELP::kInsert, kNotifyClicked);
+  ASSERT_EQ(help->m_Edit.m_vecText.Count(), pages + 1);
+  auto* list = static_cast<QListWidget*>(help->GetDlgItem(DLG_DB_HELP::kPages));
+  EXPECT_TRUE(list->item(0)->text().endsWith(QStringLiteral("一行目"))) << "the first line stands for the page";
+
+  QTimer::singleShot(0, [] {
+    for (QPushButton* b : QApplication::activeModalWidget()->findChildren<QPushButton*>())
+      if (b->text() == QStringLiteral("キャンセル")) b->click();
+  });
+  help->SendCommand(DLG_DB_HELP::kInsert, kNotifyClicked);
+  EXPECT_EQ(help->m_Edit.m_vecText.Count(), pages + 1);
 }
 
 TEST_F(DatabaseSheetTest, RenamingACommonVariableIsSavedAtOnceAndRowZeroBeeps) {

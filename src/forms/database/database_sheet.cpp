@@ -4,6 +4,7 @@
 
 #include "forms/database/db_class_page.h"
 #include "forms/database/db_compati_page.h"
+#include "forms/database/db_help_page.h"
 #include "forms/database/db_land_page.h"
 #include "forms/database/db_media_pages.h"
 #include "forms/database/db_small_pages.h"
@@ -37,7 +38,7 @@ constexpr cDatabasePageRow kPages[kDatabasePageCount] = {
     {"バック", 1, Make<DLG_DB_BACK>},
     {"効果音", 1, MakeMedia<DLG_DB_SOUND, kSoundPage>},
     {"BGM", 1, MakeMedia<DLG_DB_BGM, kBgmPage>},
-    {"ヘルプ", 1, nullptr},
+    {"ヘルプ", 1, Make<DLG_DB_HELP>},
     {"ワールドチップ", 0, Make<DLG_DBWORLDCHIP>},
     {"システム1", 0, nullptr},
     {"システム2", 0, nullptr},
