@@ -25,6 +25,7 @@ enum : unsigned {
   kNotifyEditUpdate = 0x400,     // the text of an edit changed
   kNotifyEditKillFocus = 0x200,  // an edit lost the focus
   kNotifySelChange = 1,          // combo or list selection moved
+  kNotifyDblClk = 2,             // a row of a list was double-clicked
   kNotifyListKillFocus = 5,
 };
 

@@ -47,6 +47,7 @@ bool CTRL_LISTVIEW_CLASS::Bind(DLG_CLASS* owner, const cListIdSet& ids) {
     if (!focus) m_pOwner->SendCommand(m_nId, kNotifyListKillFocus);
   };
   w->onScrolled = [this](int top) { m_List.OnScrolled(std::max(0, top)); };
+  w->onDoubleClick = [this] { m_pOwner->SendCommand(m_nId, kNotifyDblClk); };
   m_nRowsRev = m_nSelRev = ~0u;
   m_List.Box().focus = w->hasFocus();
   Sync();
@@ -59,6 +60,7 @@ CTRL_LISTVIEW_CLASS::~CTRL_LISTVIEW_CLASS() {
     w->onSelChange = nullptr;
     w->onFocus = nullptr;
     w->onScrolled = nullptr;
+    w->onDoubleClick = nullptr;
   }
 }
 

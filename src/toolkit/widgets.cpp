@@ -89,6 +89,9 @@ cListWidget::cListWidget(QWidget* parent) : QListWidget(parent) {
   connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int) {
     if (onScrolled) onScrolled(indexAt(QPoint(1, 1)).row());
   });
+  connect(this, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem*) {
+    if (onDoubleClick) onDoubleClick();
+  });
 }
 
 void cListWidget::mousePressEvent(QMouseEvent* e) {

@@ -75,6 +75,7 @@ class cListWidget : public QListWidget {
   std::function<void()> onSelChange;
   std::function<void(bool focus)> onFocus;
   std::function<void(int top)> onScrolled;
+  std::function<void()> onDoubleClick;
 
  protected:
   void mousePressEvent(QMouseEvent* e) override;
