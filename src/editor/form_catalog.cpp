@@ -3,6 +3,10 @@
 #include <string>
 
 #include "editor/dlg_battle_mode.h"
+#include "editor/dlg_enemy.h"
+#include "editor/dlg_enemy_set.h"
+#include "editor/dlg_moveai.h"
+#include "editor/dlg_moveai_template.h"
 #include "editor/dlg_testplay.h"
 #include "forms/graphic_chooser.h"
 #include "forms/input_forms.h"
@@ -28,6 +32,21 @@ std::vector<unsigned char> AskedBytes() {
   return bytes;
 }
 
+// Records of the stage forms that stand for the entry or rule of a caller: an enemy
+// with a move rule.
+cPutEnemy& CatalogEnemy() {
+  static cPutEnemy entry = [] {
+    cPutEnemy e;
+    e.m_vecMoveAI.emplace_back();
+    e.m_vecMoveAI.back().m_nGoal = 7;
+    e.m_vecMoveAI.back().m_nAction = 1;
+    return e;
+  }();
+  return entry;
+}
+cMoveAI g_CatalogRule;
+VECTOR_CLASS<cMoveAITemplate> g_vecCatalogTemplates(1);
+
 template <class Form, class... Args>
 std::function<std::unique_ptr<DLG_CLASS>()> Make(Args... args) {
   return [=] { return std::unique_ptr<DLG_CLASS>(new Form(args...)); };
@@ -51,6 +70,14 @@ const std::vector<cFormCatalogEntry>& FormCatalog() {
        },
        AskedBytes},
       {"DLG_SELECTGRAPHIC", [] { return std::make_unique<DLG_SELECTGRAPHIC>(2, &g_nAskedValue, nullptr); }, AskedBytes},
+      {"DLG_ENEMY", [] { return std::make_unique<DLG_ENEMY>(nullptr, nullptr, nullptr); }, [] { return SavedBytes(g_Stage); }},
+      {"DLG_ENEMY_SET", [] { return std::make_unique<DLG_ENEMY_SET>(CatalogEnemy(), nullptr); },
+       [] { return SavedBytes(CatalogEnemy()); }},
+      {"DLG_MOVEAI", [] { return std::make_unique<DLG_MOVEAI>(g_CatalogRule, nullptr); },
+       [] { return SavedBytes(g_CatalogRule); }},
+      {"DLG_MOVEAITEMPLATE",
+       [] { return std::make_unique<DLG_MOVEAITEMPLATE>(g_vecCatalogTemplates, true, nullptr); },
+       [] { return SavedBytes(g_vecCatalogTemplates[0]); }},
   };
   return catalog;
 }

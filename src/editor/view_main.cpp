@@ -12,6 +12,7 @@
 #include "app/stage_commands.h"
 #include "editor/command_bar.h"
 #include "editor/dlg_chip.h"
+#include "editor/dlg_enemy.h"
 #include "editor/dlg_main.h"
 #include "editor/dlg_testplay.h"
 #include "editor/map_scroll.h"
@@ -95,13 +96,19 @@ void VIEW_MAIN::ShowPalette(int palette) {
   if (m_pDlg != nullptr) m_pDlg->ShowPalette(palette);
 }
 
-// The event and enemy forms come with their palettes; until then the shortcuts refuse.
+// The event form comes with its palette; until then the shortcut refuses.
 bool VIEW_MAIN::EditEvent(cEvent&, bool) {
   QApplication::beep();
   return false;
 }
 
-void VIEW_MAIN::EditEnemyRow(int) { QApplication::beep(); }
+void VIEW_MAIN::SelectEnemyRow(int row) {
+  if (m_pDlg != nullptr && m_pDlg->Enemy() != nullptr) m_pDlg->Enemy()->ShowRow(row);
+}
+
+void VIEW_MAIN::EditEnemyRow(int row) {
+  if (m_pDlg != nullptr && m_pDlg->Enemy() != nullptr) m_pDlg->Enemy()->EditRow(row);
+}
 
 void VIEW_MAIN::DestroyMain() {
   if (m_pDlg == nullptr) return;
@@ -159,7 +166,7 @@ void VIEW_MAIN::StorePlace() {
 }
 
 void VIEW_MAIN::HidePalettes() {
-  if (m_pDlg == nullptr || m_pDlg->Chip() == nullptr || !m_pDlg->Chip()->isVisible()) return;
+  if (m_pDlg == nullptr || !m_pDlg->PaletteVisible()) return;
   m_pDlg->SetPaletteVisible(false);
   m_bMinimized = true;
 }
