@@ -5,6 +5,8 @@
 #include "editor/dlg_battle_mode.h"
 #include "editor/dlg_enemy.h"
 #include "editor/dlg_enemy_set.h"
+#include "editor/dlg_grouppos.h"
+#include "editor/dlg_grouppos_set.h"
 #include "editor/dlg_moveai.h"
 #include "editor/dlg_moveai_template.h"
 #include "editor/dlg_testplay.h"
@@ -32,8 +34,8 @@ std::vector<unsigned char> AskedBytes() {
   return bytes;
 }
 
-// Records of the stage forms that stand for the entry or rule of a caller: an enemy
-// with a move rule.
+// Records of the stage forms that stand for the entry, rule or group of a caller: an
+// enemy with a move rule, a group with marks.
 cPutEnemy& CatalogEnemy() {
   static cPutEnemy entry = [] {
     cPutEnemy e;
@@ -43,6 +45,14 @@ cPutEnemy& CatalogEnemy() {
     return e;
   }();
   return entry;
+}
+cGroupPos& CatalogGroup() {
+  static cGroupPos group = [] {
+    cGroupPos g;
+    g.m_vecPos = {{1, 1}, {2, 1}, {3, 2}};
+    return g;
+  }();
+  return group;
 }
 cMoveAI g_CatalogRule;
 VECTOR_CLASS<cMoveAITemplate> g_vecCatalogTemplates(1);
@@ -78,6 +88,9 @@ const std::vector<cFormCatalogEntry>& FormCatalog() {
       {"DLG_MOVEAITEMPLATE",
        [] { return std::make_unique<DLG_MOVEAITEMPLATE>(g_vecCatalogTemplates, true, nullptr); },
        [] { return SavedBytes(g_vecCatalogTemplates[0]); }},
+      {"DLG_GROUPPOS", [] { return std::make_unique<DLG_GROUPPOS>(nullptr, nullptr); }, [] { return SavedBytes(g_Stage); }},
+      {"DLG_GROUPPOS_SET", [] { return std::make_unique<DLG_GROUPPOS_SET>(CatalogGroup(), nullptr, QPoint(-1000, -1000)); },
+       [] { return SavedBytes(CatalogGroup()); }},
   };
   return catalog;
 }

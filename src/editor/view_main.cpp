@@ -13,6 +13,7 @@
 #include "editor/command_bar.h"
 #include "editor/dlg_chip.h"
 #include "editor/dlg_enemy.h"
+#include "editor/dlg_grouppos.h"
 #include "editor/dlg_main.h"
 #include "editor/dlg_testplay.h"
 #include "editor/map_scroll.h"
@@ -21,6 +22,7 @@
 #include "project/project_globals.h"
 #include "stage/edit_state.h"
 #include "stage/event_menu.h"
+#include "stage/stage_form_results.h"
 #include "toolkit/wnd_class.h"
 
 VIEW_MAIN* g_pViewMain = nullptr;
@@ -146,6 +148,9 @@ void VIEW_MAIN::WaitCursor(bool wait) {
 bool VIEW_MAIN::RunForm(int command) {
   switch (command) {
     case IDM_TEST_PLAY_SETTINGS: RunTestPlaySettings(this); return true;
+    case IDM_POSITION_GROUPS:
+      if (RunPositionGroups(this) == 1) PositionGroupsConfirmed();
+      return true;
     default: return false;
   }
 }

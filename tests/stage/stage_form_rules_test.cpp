@@ -1,5 +1,6 @@
 // The rules behind the stage's forms, without a display: the enemy palette's row texts
-// and brush, what the move rule form offers, and the move rule templates.
+// and brush, the position group clicks, what the move rule form offers, the move rule
+// templates, and what the editor does after the group forms.
 
 #include <tuple>
 
@@ -7,8 +8,10 @@
 #include "platform/cp932.h"
 #include "project/project_files.h"
 #include "stage/enemy_palette.h"
+#include "stage/group_pos_edit.h"
 #include "stage/map_edit.h"
 #include "stage/move_ai_rows.h"
+#include "stage/stage_form_results.h"
 #include "stage/stage_test_support.h"
 
 namespace {
@@ -47,6 +50,28 @@ TEST_F(StageFormRulesTest, TheSelectedEnemyRowIsThePensBrushAndTheBlankRowEmptie
   ChooseEnemyRow(3);
   EXPECT_EQ(std::tie(g_EditState.m_nListSel, g_EditState.m_nSelected, g_EditState.m_nBrushW, g_EditState.m_nBrushH),
             std::make_tuple(3, -1, 0, 0));
+}
+
+TEST_F(StageFormRulesTest, AClickTakesACellOutOfItsGroupAndASecondPutsItBackAtTheEnd) {
+  VECTOR_CLASS<cMapPos> cells = {{1, 1}, {2, 2}, {3, 3}};
+  ToggleGroupPos(cells, 2, 2);
+  EXPECT_EQ(cells, (VECTOR_CLASS<cMapPos>{{1, 1}, {3, 3}}));
+  ToggleGroupPos(cells, 2, 2);
+  EXPECT_EQ(cells, (VECTOR_CLASS<cMapPos>{{1, 1}, {3, 3}, {2, 2}}));
+
+  MAP_VIEW view;
+  view.m_nWidth = 640, view.m_nHeight = 480, view.m_nScrollX = 2;
+  int x = -9, y = -9;
+  EXPECT_TRUE(GroupCellAt(view, 639, 479, x, y));
+  // No test against the map: a 20 by 15 map is smaller than the picture.
+  EXPECT_EQ(std::tie(x, y), std::make_tuple(21, 14));
+  EXPECT_FALSE(GroupCellAt(view, 640, 5, x, y));
+  EXPECT_FALSE(GroupCellAt(view, 5, -1, x, y));
+  EXPECT_EQ(std::tie(x, y), std::make_tuple(21, 14)) << "the cursor stays";
+
+  cGroupPos group;
+  group.m_strName = "ab", group.m_nCenterX = 3, group.m_nCenterY = 4;
+  EXPECT_EQ(GroupPosRowText(group), CP932_TEXT("ab       中心座標(3,4)"));
 }
 
 TEST_F(StageFormRulesTest, DestinationsAreGroupsOfFewerThanFivePositionsAndSkillsAreHealingOnes) {
@@ -110,6 +135,16 @@ TEST_F(StageFormRulesTest, LoadingATemplateAsksBeforeRulesAreLostAndOverwritingS
   VECTOR_CLASS<cMoveAITemplate> saved;
   ASSERT_EQ(LoadVector(saved, kMoveAITemplateFile.path), 1);
   EXPECT_EQ(saved[0].m_vecMoveAI.Count(), 2);
+}
+
+TEST_F(StageFormRulesTest, ConfirmedGroupsLoseTheClicksBeyondTheMapAndKeepTheHistory) {
+  g_EditState.m_bStageOpen = 1;
+  PushUndo();
+  g_Stage.m_vecGroupPos[1].m_vecPos = {{19, 14}, {20, 2}};
+  PositionGroupsConfirmed();
+  EXPECT_EQ(g_Stage.m_vecGroupPos[1].m_vecPos, (VECTOR_CLASS<cMapPos>{{19, 14}}));
+  EXPECT_TRUE(g_EditState.m_History.CanUndo());
+  EXPECT_EQ(g_EditState.m_bStageModified, 1);
 }
 
 }  // namespace
