@@ -3,12 +3,14 @@
 #include <string>
 
 #include "editor/dlg_battle_mode.h"
+#include "editor/dlg_endcond.h"
 #include "editor/dlg_enemy.h"
 #include "editor/dlg_enemy_set.h"
 #include "editor/dlg_grouppos.h"
 #include "editor/dlg_grouppos_set.h"
 #include "editor/dlg_moveai.h"
 #include "editor/dlg_moveai_template.h"
+#include "editor/dlg_stage.h"
 #include "editor/dlg_testplay.h"
 #include "forms/graphic_chooser.h"
 #include "forms/input_forms.h"
@@ -34,7 +36,7 @@ std::vector<unsigned char> AskedBytes() {
   return bytes;
 }
 
-// Records of the stage forms that stand for the entry, rule or group of a caller: an
+// Records of the stage forms that stand for the entry, line or group of a caller: an
 // enemy with a move rule, a group with marks.
 cPutEnemy& CatalogEnemy() {
   static cPutEnemy entry = [] {
@@ -55,6 +57,7 @@ cGroupPos& CatalogGroup() {
   return group;
 }
 cMoveAI g_CatalogRule;
+cEndCond g_CatalogLine;
 VECTOR_CLASS<cMoveAITemplate> g_vecCatalogTemplates(1);
 
 template <class Form, class... Args>
@@ -91,6 +94,9 @@ const std::vector<cFormCatalogEntry>& FormCatalog() {
       {"DLG_GROUPPOS", [] { return std::make_unique<DLG_GROUPPOS>(nullptr, nullptr); }, [] { return SavedBytes(g_Stage); }},
       {"DLG_GROUPPOS_SET", [] { return std::make_unique<DLG_GROUPPOS_SET>(CatalogGroup(), nullptr, QPoint(-1000, -1000)); },
        [] { return SavedBytes(CatalogGroup()); }},
+      {"DLG_STAGE", [] { return std::make_unique<DLG_STAGE>(g_Stage, nullptr); }, [] { return SavedBytes(g_Stage); }},
+      {"DLG_ENDCOND", [] { return std::make_unique<DLG_ENDCOND>(g_CatalogLine, nullptr); },
+       [] { return SavedBytes(g_CatalogLine); }},
   };
   return catalog;
 }

@@ -15,6 +15,7 @@
 #include "editor/dlg_enemy.h"
 #include "editor/dlg_grouppos.h"
 #include "editor/dlg_main.h"
+#include "editor/dlg_stage.h"
 #include "editor/dlg_testplay.h"
 #include "editor/map_scroll.h"
 #include "platform/cp932.h"
@@ -148,6 +149,12 @@ void VIEW_MAIN::WaitCursor(bool wait) {
 bool VIEW_MAIN::RunForm(int command) {
   switch (command) {
     case IDM_TEST_PLAY_SETTINGS: RunTestPlaySettings(this); return true;
+    case IDM_STAGE_SETTINGS:
+      if (RunStageSettings(this) == 1) {
+        StageSettingsConfirmed();
+        if (m_pDlg != nullptr && m_pDlg->Chip() != nullptr) m_pDlg->Chip()->Relayout();
+      }
+      return true;
     case IDM_POSITION_GROUPS:
       if (RunPositionGroups(this) == 1) PositionGroupsConfirmed();
       return true;

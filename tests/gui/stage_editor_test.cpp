@@ -157,4 +157,21 @@ TEST_F(StageEditorTest, AnEnemyInsertedInItsPaletteIsDrawnWithThePenAndItsRightD
   EXPECT_TRUE(opened);
 }
 
+TEST_F(StageEditorTest, ConfirmedSettingsEmptyTheHistoryAndConfirmedGroupsKeepIt) {
+  QWidget* map = m_view->Dlg()->m_Map.m_hWnd;
+  QTest::mouseClick(map, Qt::LeftButton, {}, QPoint(5, 5));
+  ASSERT_TRUE(Menu(IDM_UNDO)->isEnabled());
+  g_EditState.m_bStageModified = 0;
+  DuringModal([](DLG_CLASS& form) { Click(form, kIdOk); });
+  Menu(IDM_POSITION_GROUPS)->trigger();
+  EXPECT_EQ(g_EditState.m_bStageModified, 1);
+  EXPECT_TRUE(Menu(IDM_UNDO)->isEnabled());
+
+  g_EditState.m_bStageModified = 0;
+  DuringModal([](DLG_CLASS& form) { Click(form, kIdOk); });
+  Menu(IDM_STAGE_SETTINGS)->trigger();
+  EXPECT_EQ(g_EditState.m_bStageModified, 1);
+  EXPECT_FALSE(Menu(IDM_UNDO)->isEnabled());
+}
+
 }  // namespace

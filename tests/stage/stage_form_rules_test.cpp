@@ -1,6 +1,6 @@
 // The rules behind the stage's forms, without a display: the enemy palette's row texts
 // and brush, the position group clicks, what the move rule form offers, the move rule
-// templates, and what the editor does after the group forms.
+// templates, and what the editor does after the settings and group forms.
 
 #include <tuple>
 
@@ -135,6 +135,19 @@ TEST_F(StageFormRulesTest, LoadingATemplateAsksBeforeRulesAreLostAndOverwritingS
   VECTOR_CLASS<cMoveAITemplate> saved;
   ASSERT_EQ(LoadVector(saved, kMoveAITemplateFile.path), 1);
   EXPECT_EQ(saved[0].m_vecMoveAI.Count(), 2);
+}
+
+TEST_F(StageFormRulesTest, ConfirmedSettingsClampEmptyTheHistoryAndMarkTheStageEvenUnchanged) {
+  g_EditState.m_bStageOpen = 1;
+  PushUndo();
+  ASSERT_TRUE(g_EditState.m_History.CanUndo());
+  cEndCond line;
+  line.m_nFocus = 4, line.m_nFocusX = 64, line.m_nFocusY = 3;
+  g_Stage.m_vecWinCond.push_back(line);
+  StageSettingsConfirmed();
+  EXPECT_FALSE(g_EditState.m_History.CanUndo());
+  EXPECT_EQ(g_EditState.m_bStageModified, 1);
+  EXPECT_EQ(std::tie(g_Stage.m_vecWinCond[0].m_nFocusX, g_Stage.m_vecWinCond[0].m_nFocusY), std::make_tuple(19, 3));
 }
 
 TEST_F(StageFormRulesTest, ConfirmedGroupsLoseTheClicksBeyondTheMapAndKeepTheHistory) {
