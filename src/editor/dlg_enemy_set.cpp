@@ -11,20 +11,10 @@
 #include "stage/enemy_palette.h"
 #include "stage/map_edit.h"
 
-namespace {
-
-VECTOR_CLASS<std::string> TemplateRows() {
-  VECTOR_CLASS<std::string> rows;
-  for (const cMoveAITemplate& t : g_vecMoveAITemplate) rows.push_back(t.m_strName);
-  return rows;
-}
-
-}  // namespace
-
 DLG_ENEMY_SET::DLG_ENEMY_SET(const cPutEnemy& source, QWidget* parent) : cRecordForm(parent, "敵", source) {
   m_vecEnemyRows = NumberedRows(g_vecEnemy, 1, 3);
   m_vecEnemyRows.insert(m_vecEnemyRows.begin(), CP932_TEXT("未設定"));
-  m_vecTemplateRows = TemplateRows();
+  m_vecTemplateRows = NameRows(g_vecMoveAITemplate);
   m_nTemplate = m_vecTemplateRows.empty() ? -1 : 0;
 
   cListInit<cMoveAI> rules;
@@ -115,7 +105,7 @@ void DLG_ENEMY_SET::OrderTemplates() {
 }
 
 void DLG_ENEMY_SET::RefillTemplates() {
-  m_vecTemplateRows = TemplateRows();
+  m_vecTemplateRows = NameRows(g_vecMoveAITemplate);
   if (auto* combo = GetCtrl<CTRL_COMBO_CLASS<int>>(kIdTemplate)) combo->SetLabels(m_vecTemplateRows);
 }
 

@@ -10,18 +10,8 @@
 #include "project/project_globals.h"
 #include "toolkit/list_ctrl_base.h"
 
-namespace {
-
-VECTOR_CLASS<std::string> SkillListRows() {
-  VECTOR_CLASS<std::string> rows;
-  for (const cSkillList& list : g_vecSkillList) rows.push_back(list.m_strName);
-  return rows;
-}
-
-}  // namespace
-
 DLG_MOVEAI::DLG_MOVEAI(const cMoveAI& source, QWidget* parent) : cRecordForm(parent, "移動AI", source) {
-  m_vecListRows = SkillListRows();
+  m_vecListRows = NameRows(g_vecSkillList);
   m_vecVarRows = NumberedRows(g_vecGValInfo, 1, 3);
   m_Skills = HealSkillRows(m_Work.m_nList);
   m_Destinations = DestinationRows();

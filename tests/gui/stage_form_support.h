@@ -1,15 +1,13 @@
 #pragma once
-// Helpers of the stage form tests: a project of small tables with an open stage, and a
-// way to act on the modal form that the next call opens.
+// Helpers of the stage form tests: a project of small tables with an open stage, and
+// the user's clicks and choices in a form.
 
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QComboBox>
-#include <QTimer>
-#include <functional>
 
+#include "gui/modal_support.h"
 #include "kernel/serial_file.h"
 #include "project/project_globals.h"
 #include "stage/edit_state.h"
@@ -45,21 +43,6 @@ inline std::vector<unsigned char> SavedBytes(cSerial& record) {
   SerialFilePtr file = OpenSerialWriteBuffer();
   record.Save(file.get());
   return file->Bytes();
-}
-
-// Runs `during` on the modal form that opens next, once it stands. A missing form
-// fails the test and closes whatever is open.
-inline void DuringModal(std::function<void(DLG_CLASS&)> during) {
-  QTimer::singleShot(0, [during] {
-    QWidget* w = QApplication::activeModalWidget();
-    DLG_CLASS* form = DLG_CLASS::FromWidget(w);
-    if (form == nullptr) {
-      ADD_FAILURE() << "no modal form";
-      if (w != nullptr) w->close();
-      return;
-    }
-    during(*form);
-  });
 }
 
 inline void Click(DLG_CLASS& form, unsigned id) { static_cast<QAbstractButton*>(form.GetDlgItem(id))->click(); }
