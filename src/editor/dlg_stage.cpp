@@ -42,8 +42,8 @@ DLG_STAGE::DLG_STAGE(const cStage& source, QWidget* parent)
   F.Combo(kIdBgm, "BGM", &s.m_nBgm, &m_vecBgmRows).Span(2);
   F.Button(kIdPlay, "再生").Row();
   F.Check(kIdAllGroups, "最初から全てのグループの敵を出現させる", &s.m_bAllGroups).Span(4).Row();
-  F.Combo(kIdRewardVal, "ステージクリア時の報酬", &s.m_nRewardVal, &m_vecPtValRows, nullptr, 1);
-  F.EditVal(kIdReward, "", &s.m_nReward, 0, 999999, 1, kIdRewardSpin).Named("報酬").Span(2).Row();
+  F.Combo(kIdRewardVal, "ステージクリア時の報酬", &s.m_nRewardVal, &m_vecPtValRows, nullptr, 1).Span(2);
+  F.EditVal(kIdReward, "", &s.m_nReward, 0, 999999, 1, kIdRewardSpin).Named("報酬").Row();
   F.EditVal(kIdTurnCut, "－経過ターン数×", &s.m_nRewardTurnCut, 0, 99999, 1, kIdTurnCutSpin);
   F.Check(kIdTurnPercent, "「経過ターン×□」を％で指定", &s.m_bRewardTurnPercent).Span(2).Row();
   F.EditVal(kIdRepeatRate, "クリア2回目以降の修正(%)", &s.m_nRewardRepeatRate, 0, 999, 1, kIdRepeatRateSpin).Row();
@@ -51,10 +51,12 @@ DLG_STAGE::DLG_STAGE(const cStage& source, QWidget* parent)
   F.EditVal(kIdExpCleared, "クリア済みなら(%)", &s.m_nExpClearedRate, 0, 999, 1, kIdExpClearedSpin).Row();
   F.EditVal(kIdGoldRate, "敵の獲得金の修正(%)", &s.m_nGoldRate, 0, 999, 1, kIdGoldRateSpin);
   F.EditVal(kIdGoldCleared, "クリア済みなら(%)", &s.m_nGoldClearedRate, 0, 999, 1, kIdGoldClearedSpin).Row();
-  F.Group("文字画像の表示");
+  F.Group("文字画像の表示", 4);
   F.Check(kIdShowClear, "CLEAR !　（同時に報酬も表示）", &s.m_bShowClear);
   F.Check(kIdShowGameOver, "GAMEOVER", &s.m_bShowGameOver);
-  F.EndGroup();
+  F.EndGroup().Row();
+  // The descriptions stand beside the settings, so that the form fits a small screen.
+  F.Column();
   for (int i = 0; i < kDescriptions; ++i) {
     const cDescriptionFace& face = kDescriptionFaces[i];
     cDescription& d = m_aDesc[i];
@@ -68,7 +70,7 @@ DLG_STAGE::DLG_STAGE(const cStage& source, QWidget* parent)
     init.bBlankRow = 1;
     init.pfnRowText = [](std::string& out, int, const cEndCond& line) { out = line.m_strText; };
     F.Group(face.title);
-    F.List(d.id + kListOffset, "", d.list, init, face.ids, kMaxLines + 1).Span(4);
+    F.List(d.id + kListOffset, "", d.list, init, face.ids, kMaxLines + 1).Span(3).Row();
     F.Button(d.id + kInsertOffset, "挿入");
     F.Button(d.id + kEditOffset, "編集");
     F.Button(d.id + kDeleteOffset, "削除");

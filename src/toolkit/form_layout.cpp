@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSlider>
+#include <algorithm>
 
 #include "toolkit/ctrl_types.h"
 #include "toolkit/dlg_class.h"
@@ -42,8 +43,6 @@ cFormLayout& cFormLayout::NoMargins() {
   return *this;
 }
 
-QGridLayout* cFormLayout::Grid() const { return m_pGroup != nullptr ? m_pGroup : m_pRoot; }
-
 cFormLayout& cFormLayout::Row() {
   if (m_pGroup != nullptr) {
     ++m_nGroupRow;
@@ -59,7 +58,12 @@ cFormLayout& cFormLayout::Put(QWidget* w, unsigned id, int span) {
   int& row = m_pGroup != nullptr ? m_nGroupRow : m_nRow;
   int& col = m_pGroup != nullptr ? m_nGroupCol : m_nCol;
   if (w != nullptr) {
-    Grid()->addWidget(w, row, col, 1, span);
+    if (m_pGroup != nullptr) {
+      m_pGroup->addWidget(w, row, col, 1, span);
+    } else {
+      m_pRoot->addWidget(w, row, m_nColBase + col, 1, span);
+      Used(row, m_nColBase + col + span);
+    }
     m_Form.RegisterItem(id, w);
     m_pLast = w;
   }
@@ -69,20 +73,39 @@ cFormLayout& cFormLayout::Put(QWidget* w, unsigned id, int span) {
 
 cFormLayout& cFormLayout::Group(const char* title, int span) {
   EndGroup();
-  if (m_nCol != 0) Row();
+  if (span <= 0 && m_nCol != 0) Row();
   auto* box = new QGroupBox(Utf8(title), m_pParent);
-  m_pRoot->addWidget(box, m_nRow, 0, 1, span > 0 ? span : -1);
+  m_pRoot->addWidget(box, m_nRow, m_nColBase + m_nCol, 1, span > 0 ? span : -1);
+  Used(m_nRow, m_nColBase + m_nCol + std::max(span, 1));
   m_pGroup = new QGridLayout(box);
   m_nGroupRow = m_nGroupCol = 0;
+  m_nGroupSpan = span;
   return *this;
 }
 
 cFormLayout& cFormLayout::EndGroup() {
   if (m_pGroup == nullptr) return *this;
   m_pGroup = nullptr;
+  if (m_nGroupSpan > 0) {
+    m_nCol += m_nGroupSpan;
+    m_nGroupSpan = 0;
+    return *this;
+  }
   m_nCol = 0;
   ++m_nRow;
   return *this;
+}
+
+cFormLayout& cFormLayout::Column() {
+  EndGroup();
+  m_nColBase = m_nUsedCols;
+  m_nRow = m_nCol = 0;
+  return *this;
+}
+
+void cFormLayout::Used(int row, int colEnd) {
+  m_nUsedRows = std::max(m_nUsedRows, row + 1);
+  m_nUsedCols = std::max(m_nUsedCols, colEnd);
 }
 
 cFormLayout& cFormLayout::Skip(int span) { return Put(nullptr, 0, span); }
@@ -188,7 +211,9 @@ cFormLayout& cFormLayout::OkCancel(bool cancel) {
     m_Form.RegisterItem(id, b);
     row->addWidget(b);
   }
+  m_nRow = std::max(m_nRow, m_nUsedRows);
   m_pRoot->addWidget(cell, m_nRow, 0, 1, -1);
+  Used(m_nRow, 1);
   ++m_nRow;
   return *this;
 }

@@ -23,9 +23,13 @@ class cFormLayout {
   cFormLayout& NoMargins();
   // The next cell starts a new row.
   cFormLayout& Row();
-  // A titled box that takes the rest of the row; its cells are a grid of their own until EndGroup.
+  // A titled box that takes the rest of the row, or `span` cells of it beside what
+  // stands there; its cells are a grid of their own until EndGroup.
   cFormLayout& Group(const char* title, int span = 0);
   cFormLayout& EndGroup();
+  // The cells that follow stand in a new column to the right of all so far, from the
+  // top; OK and Cancel still end the form below all columns.
+  cFormLayout& Column();
   // Leaves a cell empty.
   cFormLayout& Skip(int span = 1);
 
@@ -52,7 +56,7 @@ class cFormLayout {
 
  private:
   cFormLayout& Put(QWidget* w, unsigned id, int span);
-  QGridLayout* Grid() const;
+  void Used(int row, int colEnd);
 
   DLG_CLASS& m_Form;
   QWidget* m_pParent;
@@ -60,5 +64,8 @@ class cFormLayout {
   QGridLayout* m_pGroup = nullptr;
   int m_nRow = 0, m_nCol = 0;
   int m_nGroupRow = 0, m_nGroupCol = 0;
+  int m_nGroupSpan = 0;
+  int m_nColBase = 0;           // the first grid column of the current column
+  int m_nUsedCols = 0, m_nUsedRows = 0;  // of the root grid so far
   QWidget* m_pLast = nullptr;
 };

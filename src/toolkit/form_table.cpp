@@ -57,8 +57,9 @@ cFormTable& cFormTable::AddPlace(eKind kind, const char* text, int span) {
 }
 
 cFormTable& cFormTable::Row() { return AddPlace(eKind::kRow); }
-cFormTable& cFormTable::Group(const char* title) { return AddPlace(eKind::kGroup, title); }
+cFormTable& cFormTable::Group(const char* title, int span) { return AddPlace(eKind::kGroup, title, span); }
 cFormTable& cFormTable::EndGroup() { return AddPlace(eKind::kEndGroup); }
+cFormTable& cFormTable::Column() { return AddPlace(eKind::kColumn); }
 cFormTable& cFormTable::Text(const char* text, int span) { return AddPlace(eKind::kText, text, span); }
 cFormTable& cFormTable::Skip(int span) { return AddPlace(eKind::kSkip, "", span); }
 cFormTable& cFormTable::OkCancel() { return AddPlace(eKind::kOkCancel); }
@@ -240,8 +241,12 @@ void cFormTable::Layout(cFormLayout& L, const std::string& formTitle) const {
       case eKind::kControl: PutControl(L, e, group.empty() ? formTitle : group); break;
       case eKind::kRow: L.Row(); break;
       case eKind::kGroup:
-        L.Group(e.text.c_str());
+        L.Group(e.text.c_str(), e.span);
         group = e.text;
+        break;
+      case eKind::kColumn:
+        L.Column();
+        group.clear();
         break;
       case eKind::kEndGroup:
         L.EndGroup();

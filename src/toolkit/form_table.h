@@ -54,9 +54,12 @@ class cFormTable {
   // --- places ---
   // The next cell starts a new row.
   cFormTable& Row();
-  // A titled box that takes the rest of the row; its cells are a grid of their own.
-  cFormTable& Group(const char* title);
+  // A titled box that takes the rest of the row, or `span` cells of it beside what
+  // stands there; its cells are a grid of their own.
+  cFormTable& Group(const char* title, int span = 0);
   cFormTable& EndGroup();
+  // What follows stands in a column of its own to the right of all so far.
+  cFormTable& Column();
   // A fixed text without an id, and an empty cell.
   cFormTable& Text(const char* text, int span = 1);
   cFormTable& Skip(int span = 1);
@@ -152,7 +155,7 @@ class cFormTable {
   bool Empty() const { return m_vecEntry.empty(); }
 
  private:
-  enum class eKind : std::uint8_t { kControl, kRow, kGroup, kEndGroup, kText, kSkip, kOkCancel, kOkOnly };
+  enum class eKind : std::uint8_t { kControl, kRow, kGroup, kEndGroup, kColumn, kText, kSkip, kOkCancel, kOkOnly };
   struct cEntry {
     eKind kind = eKind::kControl;
     eFormWidget widget = eFormWidget::kLabel;

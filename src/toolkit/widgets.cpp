@@ -83,6 +83,9 @@ cSpinButtons::cSpinButtons(QWidget* parent) : QWidget(parent) {
 
 cListWidget::cListWidget(QWidget* parent) : QListWidget(parent) {
   setContextMenuPolicy(Qt::NoContextMenu);
+  // As a list box, rows end at its right edge: the blank row's hyphens are wider than
+  // most lists and would otherwise bring a bar across every one of them.
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   connect(this, &QListWidget::itemSelectionChanged, this, [this] {
     if (onSelChange) onSelChange();
   });
