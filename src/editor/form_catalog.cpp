@@ -37,13 +37,16 @@ std::vector<unsigned char> AskedBytes() {
 }
 
 // Records of the stage forms that stand for the entry, line or group of a caller: an
-// enemy with a move rule, a group with marks.
+// enemy with two move rules, one of them under a condition, and a group with marks.
 cPutEnemy& CatalogEnemy() {
   static cPutEnemy entry = [] {
     cPutEnemy e;
     e.m_vecMoveAI.emplace_back();
     e.m_vecMoveAI.back().m_nGoal = 7;
     e.m_vecMoveAI.back().m_nAction = 1;
+    e.m_vecMoveAI.emplace_back();
+    e.m_vecMoveAI.back().m_nGoal = 10;
+    e.m_vecMoveAI.back().m_bStatusCond = 1;
     return e;
   }();
   return entry;

@@ -1,15 +1,20 @@
 // The enemy palette's commands, the enemy form and the move rule form, as the author
 // uses them: entries copied, cut and pasted, forms confirmed and declined.
 
+#include <QFontMetrics>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
+#include <filesystem>
 #include <tuple>
 
 #include "database/ai_labels.h"
 #include "editor/dlg_enemy.h"
 #include "editor/dlg_enemy_set.h"
 #include "editor/dlg_moveai.h"
+#include "editor/dlg_moveai_template.h"
+#include "forms/input_forms.h"
+#include "kernel/record_vector_file.h"
 #include "editor/enemy_list.h"
 #include "gui/stage_form_support.h"
 #include "platform/cp932.h"
@@ -223,6 +228,58 @@ TEST_F(EnemyFormTest, TheDestinationOffersGroupsOfFourAndGreyedOutKeepsItsValue)
             std::make_tuple(7, 2, 1, 1, 0, 0));
 }
 
+TEST_F(EnemyFormTest, ARenamedCommonVariableIsSavedAtOnceAndWithoutOneTheButtonBeeps) {
+  std::filesystem::create_directories("data");
+  FitCommonVarNames(g_vecGValInfo);
+  cMoveAI rule;
+  rule.m_bCond = rule.m_bValCond = 1;
+  DuringModal([this](DLG_CLASS& form) {
+    Click(form, DLG_MOVEAI::kIdRename);
+    EXPECT_EQ(m_prompt.beeps, 1) << "no variable is chosen";
+    Choose(form, DLG_MOVEAI::kIdVal, 2);
+    DuringModal([](DLG_CLASS& input) {
+      EXPECT_EQ(input.Title(), "変数名の入力");
+      QTest::keyClicks(input.GetDlgItem(cInputForm::kIdInput), "gate");
+      Click(input, kIdOk);
+    });
+    Click(form, DLG_MOVEAI::kIdRename);
+    EXPECT_EQ(static_cast<QComboBox*>(form.GetDlgItem(DLG_MOVEAI::kIdVal))->currentText(), QStringLiteral("003 gate"));
+    Click(form, kIdCancel);
+  });
+  EXPECT_EQ(RunMoveAI(rule, nullptr), 0);
+  VECTOR_CLASS<cGValInfo> saved;
+  ASSERT_EQ(LoadVector(saved, kGValInfoPath), 1);
+  EXPECT_EQ(saved[3].m_strName, "gate");
+}
+
+TEST_F(EnemyFormTest, ANewTemplateIsNamedInTheTemplateFormAndOffered) {
+  std::filesystem::create_directories("data");
+  g_vecMoveAITemplate.resize(1);
+  g_vecMoveAITemplate[0].m_strName = "old";
+  cPutEnemy entry;
+  entry.m_vecMoveAI.resize(2);
+  g_EditState.m_pEditEnemy = &entry;
+  DuringModal([](DLG_CLASS& form) {
+    DuringModal([](DLG_CLASS& templates) {
+      auto& t = static_cast<DLG_MOVEAITEMPLATE&>(templates);
+      EXPECT_EQ(t.m_List.m_nCurSel, 1) << "the new template is selected";
+      QTest::keyClicks(templates.GetDlgItem(DLG_MOVEAITEMPLATE::kIdName), "guard");
+      Click(templates, DLG_MOVEAITEMPLATE::kIdUp);
+      Click(templates, kIdOk);
+    });
+    Click(form, DLG_ENEMY_SET::kIdNew);
+    auto* combo = static_cast<QComboBox*>(form.GetDlgItem(DLG_ENEMY_SET::kIdTemplate));
+    EXPECT_EQ(std::make_pair(combo->count(), combo->itemText(0)), std::make_pair(2, QStringLiteral("guard")));
+    Click(form, kIdCancel);
+  });
+  EXPECT_EQ(RunEnemySet(nullptr), 0);
+  VECTOR_CLASS<cMoveAITemplate> saved;
+  ASSERT_EQ(LoadVector(saved, "data\\MoveAITemplate.dat"), 1);
+  ASSERT_EQ(saved.Count(), 2);
+  EXPECT_EQ(std::tie(saved[0].m_strName, saved[1].m_strName), std::make_tuple(std::string("guard"), std::string("old")));
+  EXPECT_EQ(saved[0].m_vecMoveAI.Count(), 2);
+}
+
 TEST_F(EnemyFormTest, ThePaletteListsTheStagesEnemiesInItsFixedPitchRows) {
   g_Stage.m_vecPutEnemy.resize(2);
   g_EditState.m_nListSel = 1;
@@ -231,7 +288,18 @@ TEST_F(EnemyFormTest, ThePaletteListsTheStagesEnemiesInItsFixedPitchRows) {
   auto* list = static_cast<QListWidget*>(palette.GetDlgItem(cEnemyList::kIdList));
   EXPECT_EQ(list->count(), 3);
   EXPECT_EQ(list->currentRow(), 1) << "it opens on the palette's row";
-  EXPECT_EQ(list->font().family(), QStringLiteral("IPAGothic"));
+  // Names padded by bytes put the levels of rows alike in one column.
+  g_vecEnemy[1].m_strName = CP932_TEXT("スライム");
+  g_vecEnemy[2].m_strName = CP932_TEXT("ウルフ");
+  for (int i : {0, 1}) g_Stage.m_vecPutEnemy[i].m_nEnemy = i + 1;
+  palette.Refresh();
+  const QFontMetrics metrics(list->font());
+  auto levelAt = [&](int row) {
+    const QString text = list->item(row)->text();
+    return metrics.horizontalAdvance(text.left(text.indexOf(QStringLiteral("LV"))));
+  };
+  EXPECT_EQ(levelAt(0), levelAt(1));
+  EXPECT_EQ(metrics.horizontalAdvance(QStringLiteral("ウ")), 2 * metrics.horizontalAdvance(QLatin1Char('-')));
   g_Stage.m_vecPutEnemy.clear();
   palette.Refresh();
   EXPECT_EQ(list->count(), 1);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QLabel>
 #include <QTest>
@@ -155,6 +156,17 @@ TEST_F(StageEditorTest, AnEnemyInsertedInItsPaletteIsDrawnWithThePenAndItsRightD
   QTest::mouseRelease(map, Qt::RightButton, {}, cell);
   QTest::mouseDClick(map, Qt::RightButton, {}, cell);
   EXPECT_TRUE(opened);
+
+  // Space in the palette belongs to the main window: the next palette, and this one goes.
+  QWidget* list = palette->GetDlgItem(cEnemyList::kIdList);
+  list->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(list->window()));
+  list->setFocus();
+  ASSERT_EQ(QApplication::focusWidget(), list);
+  QTest::keyClick(list, Qt::Key_Space);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(g_EditState.m_nPalette, PALETTE_EVENT);
+  EXPECT_EQ(m_view->Dlg()->Enemy(), nullptr);
 }
 
 TEST_F(StageEditorTest, ConfirmedSettingsEmptyTheHistoryAndConfirmedGroupsKeepIt) {
