@@ -19,6 +19,7 @@ target_sources(ortalune_core PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/land.cpp
   ${CMAKE_CURRENT_LIST_DIR}/media_tables.cpp
   ${CMAKE_CURRENT_LIST_DIR}/move_ai.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/move_ai_templates.cpp
   ${CMAKE_CURRENT_LIST_DIR}/random_names.cpp
   ${CMAKE_CURRENT_LIST_DIR}/world_chip.cpp
   ${CMAKE_CURRENT_LIST_DIR}/skill.cpp

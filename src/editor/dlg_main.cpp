@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "editor/dlg_chip.h"
+#include "editor/dlg_enemy.h"
 #include "editor/map_scroll.h"
 #include "editor/qt_prompt.h"
 #include "project/project_globals.h"
@@ -85,7 +86,7 @@ DLG_MAIN::DLG_MAIN(QWidget* parent, QSize size) : QWidget(parent), m_Size(size) 
   m_pStatus->setText(StatusText());
 }
 
-DLG_MAIN::~DLG_MAIN() { delete m_pDlgChip.data(); }
+DLG_MAIN::~DLG_MAIN() { delete m_pDlgChip.data(); }  // the enemy palette goes with its owner
 
 QString DLG_MAIN::StatusText() const { return QtText(MapCoordText(m_Map.m_View.m_nCursorX, m_Map.m_View.m_nCursorY)); }
 
@@ -111,26 +112,37 @@ void DLG_MAIN::Scrolled() {
 }
 
 void DLG_MAIN::ShowPalette(int palette) {
-  if (palette != PALETTE_CHIP) {
-    delete m_pDlgChip.data();
-    return;
-  }
-  if (m_pDlgChip != nullptr) return;
-  m_pDlgChip = new DLG_CHIP(window(), [this](int key) {
+  if (palette != PALETTE_CHIP) delete m_pDlgChip.data();
+  if (palette != PALETTE_ENEMY) m_pDlgEnemy.reset();
+  auto keys = [this](int key) {
     if (m_onKey) m_onKey(key);
-  });
-  m_pDlgChip->show();
+  };
+  if (palette == PALETTE_CHIP && m_pDlgChip == nullptr) {
+    m_pDlgChip = new DLG_CHIP(window(), keys);
+    m_pDlgChip->show();
+  }
+  if (palette == PALETTE_ENEMY && m_pDlgEnemy == nullptr) {
+    m_pDlgEnemy = std::make_unique<DLG_ENEMY>(window(), keys, [this] { Redraw(); });
+    m_pDlgEnemy->Create();
+  }
 }
 
 DLG_CHIP* DLG_MAIN::Chip() const { return m_pDlgChip.data(); }
 
 void DLG_MAIN::RefreshPalette() {
   if (m_pDlgChip != nullptr) m_pDlgChip->Refresh();
+  if (m_pDlgEnemy != nullptr) m_pDlgEnemy->Refresh();
   Redraw();
 }
 
 void DLG_MAIN::SetPaletteVisible(bool visible) {
   if (m_pDlgChip != nullptr) m_pDlgChip->setVisible(visible);
+  if (m_pDlgEnemy != nullptr && m_pDlgEnemy->m_hWnd) m_pDlgEnemy->m_hWnd->setVisible(visible);
+}
+
+bool DLG_MAIN::PaletteVisible() const {
+  if (m_pDlgChip != nullptr) return m_pDlgChip->isVisible();
+  return m_pDlgEnemy != nullptr && m_pDlgEnemy->m_hWnd && m_pDlgEnemy->m_hWnd->isVisible();
 }
 
 void DLG_MAIN::keyPressEvent(QKeyEvent* event) {

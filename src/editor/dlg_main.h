@@ -6,11 +6,13 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <memory>
 
 #include "stage/stage_view_draw.h"
 #include "toolkit/view_class.h"
 
 class DLG_CHIP;
+class DLG_ENEMY;
 class QLabel;
 class QScrollBar;
 
@@ -58,7 +60,9 @@ class DLG_MAIN : public QWidget {
   // What a map edit may have changed in the palette.
   void RefreshPalette();
   void SetPaletteVisible(bool visible);
+  bool PaletteVisible() const;
   DLG_CHIP* Chip() const;
+  DLG_ENEMY* Enemy() const { return m_pDlgEnemy.get(); }
 
   cStageView m_Map;
   QScrollBar* m_pScrollH;
@@ -74,4 +78,5 @@ class DLG_MAIN : public QWidget {
   void Scrolled();
   QSize m_Size;
   QPointer<DLG_CHIP> m_pDlgChip;
+  std::unique_ptr<DLG_ENEMY> m_pDlgEnemy;
 };

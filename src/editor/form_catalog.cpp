@@ -3,6 +3,14 @@
 #include <string>
 
 #include "editor/dlg_battle_mode.h"
+#include "editor/dlg_endcond.h"
+#include "editor/dlg_enemy.h"
+#include "editor/dlg_enemy_set.h"
+#include "editor/dlg_grouppos.h"
+#include "editor/dlg_grouppos_set.h"
+#include "editor/dlg_moveai.h"
+#include "editor/dlg_moveai_template.h"
+#include "editor/dlg_stage.h"
 #include "editor/dlg_testplay.h"
 #include "forms/database/db_compati_page.h"
 #include "forms/database/db_help_page.h"
@@ -44,6 +52,32 @@ std::vector<unsigned char> SenseBytes() {
   for (std::int32_t v : g_vecSense) bytes.push_back(static_cast<unsigned char>(v));
   return bytes;
 }
+// Records of the stage forms that stand for the entry, line or group of a caller: an
+// enemy with two move rules, one of them under a condition, and a group with marks.
+cPutEnemy& CatalogEnemy() {
+  static cPutEnemy entry = [] {
+    cPutEnemy e;
+    e.m_vecMoveAI.emplace_back();
+    e.m_vecMoveAI.back().m_nGoal = 7;
+    e.m_vecMoveAI.back().m_nAction = 1;
+    e.m_vecMoveAI.emplace_back();
+    e.m_vecMoveAI.back().m_nGoal = 10;
+    e.m_vecMoveAI.back().m_bStatusCond = 1;
+    return e;
+  }();
+  return entry;
+}
+cGroupPos& CatalogGroup() {
+  static cGroupPos group = [] {
+    cGroupPos g;
+    g.m_vecPos = {{1, 1}, {2, 1}, {3, 2}};
+    return g;
+  }();
+  return group;
+}
+cMoveAI g_CatalogRule;
+cEndCond g_CatalogLine;
+VECTOR_CLASS<cMoveAITemplate> g_vecCatalogTemplates(1);
 
 template <class Form, class... Args>
 std::function<std::unique_ptr<DLG_CLASS>()> Make(Args... args) {
@@ -73,6 +107,20 @@ const std::vector<cFormCatalogEntry>& FormCatalog() {
       {"DLG_INFL", [] { return std::make_unique<DLG_INFL>(g_Infl); }, [] { return SavedBytes(g_Infl); }},
       {"DLG_TEXT", [] { return std::make_unique<DLG_TEXT>(g_HelpText); }, [] { return SavedBytes(g_HelpText); }},
       {"DLG_SENSE", [] { return std::make_unique<DLG_SENSE>(g_vecSense, 0); }, SenseBytes},
+      {"DLG_ENEMY", [] { return std::make_unique<DLG_ENEMY>(nullptr, nullptr, nullptr); }, [] { return SavedBytes(g_Stage); }},
+      {"DLG_ENEMY_SET", [] { return std::make_unique<DLG_ENEMY_SET>(CatalogEnemy(), nullptr); },
+       [] { return SavedBytes(CatalogEnemy()); }},
+      {"DLG_MOVEAI", [] { return std::make_unique<DLG_MOVEAI>(g_CatalogRule, nullptr); },
+       [] { return SavedBytes(g_CatalogRule); }},
+      {"DLG_MOVEAITEMPLATE",
+       [] { return std::make_unique<DLG_MOVEAITEMPLATE>(g_vecCatalogTemplates, true, nullptr); },
+       [] { return SavedBytes(g_vecCatalogTemplates[0]); }},
+      {"DLG_GROUPPOS", [] { return std::make_unique<DLG_GROUPPOS>(nullptr, nullptr); }, [] { return SavedBytes(g_Stage); }},
+      {"DLG_GROUPPOS_SET", [] { return std::make_unique<DLG_GROUPPOS_SET>(CatalogGroup(), nullptr, QPoint(-1000, -1000)); },
+       [] { return SavedBytes(CatalogGroup()); }},
+      {"DLG_STAGE", [] { return std::make_unique<DLG_STAGE>(g_Stage, nullptr); }, [] { return SavedBytes(g_Stage); }},
+      {"DLG_ENDCOND", [] { return std::make_unique<DLG_ENDCOND>(g_CatalogLine, nullptr); },
+       [] { return SavedBytes(g_CatalogLine); }},
   };
   return catalog;
 }

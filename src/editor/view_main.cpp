@@ -12,7 +12,10 @@
 #include "app/stage_commands.h"
 #include "editor/command_bar.h"
 #include "editor/dlg_chip.h"
+#include "editor/dlg_enemy.h"
+#include "editor/dlg_grouppos.h"
 #include "editor/dlg_main.h"
+#include "editor/dlg_stage.h"
 #include "editor/dlg_testplay.h"
 #include "editor/map_scroll.h"
 #include "forms/database/database_sheet.h"
@@ -21,6 +24,7 @@
 #include "project/project_globals.h"
 #include "stage/edit_state.h"
 #include "stage/event_menu.h"
+#include "stage/stage_form_results.h"
 #include "toolkit/wnd_class.h"
 
 VIEW_MAIN* g_pViewMain = nullptr;
@@ -96,13 +100,19 @@ void VIEW_MAIN::ShowPalette(int palette) {
   if (m_pDlg != nullptr) m_pDlg->ShowPalette(palette);
 }
 
-// The event and enemy forms come with their palettes; until then the shortcuts refuse.
+// The event form comes with its palette; until then the shortcut refuses.
 bool VIEW_MAIN::EditEvent(cEvent&, bool) {
   QApplication::beep();
   return false;
 }
 
-void VIEW_MAIN::EditEnemyRow(int) { QApplication::beep(); }
+void VIEW_MAIN::SelectEnemyRow(int row) {
+  if (m_pDlg != nullptr && m_pDlg->Enemy() != nullptr) m_pDlg->Enemy()->ShowRow(row);
+}
+
+void VIEW_MAIN::EditEnemyRow(int row) {
+  if (m_pDlg != nullptr && m_pDlg->Enemy() != nullptr) m_pDlg->Enemy()->EditRow(row);
+}
 
 void VIEW_MAIN::DestroyMain() {
   if (m_pDlg == nullptr) return;
@@ -141,6 +151,15 @@ bool VIEW_MAIN::RunForm(int command) {
   switch (command) {
     case IDM_TEST_PLAY_SETTINGS: RunTestPlaySettings(this); return true;
     case IDM_DATABASE: return OpenDatabase();
+    case IDM_STAGE_SETTINGS:
+      if (RunStageSettings(this) == 1) {
+        StageSettingsConfirmed();
+        if (m_pDlg != nullptr && m_pDlg->Chip() != nullptr) m_pDlg->Chip()->Relayout();
+      }
+      return true;
+    case IDM_POSITION_GROUPS:
+      if (RunPositionGroups(this) == 1) PositionGroupsConfirmed();
+      return true;
     default: return false;
   }
 }
@@ -181,7 +200,7 @@ void VIEW_MAIN::StorePlace() {
 }
 
 void VIEW_MAIN::HidePalettes() {
-  if (m_pDlg == nullptr || m_pDlg->Chip() == nullptr || !m_pDlg->Chip()->isVisible()) return;
+  if (m_pDlg == nullptr || !m_pDlg->PaletteVisible()) return;
   m_pDlg->SetPaletteVisible(false);
   m_bMinimized = true;
 }

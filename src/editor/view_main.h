@@ -36,6 +36,7 @@ class VIEW_MAIN : public QMainWindow, public cMapEditHost {
   void UpdateCommands() override;
   void ShowPalette(int palette) override;
   bool EditEvent(cEvent& event, bool placed) override;
+  void SelectEnemyRow(int row) override;
   void EditEnemyRow(int row) override;
   void DestroyMain() override;
   void BuildMain() override;

@@ -13,6 +13,7 @@ void cEditState::Reset() {
   m_nDragX = m_nDragY = -1;
   m_nBrushW = m_nBrushH = 1;
   m_pEditEvent = nullptr;
+  m_pEditEnemy = nullptr;
   m_eDrag = eMapDrag::kIdle;
 
   const bool hasEvents = !g_Stage.m_vecEvent.empty();

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "event/event.h"
+#include "stage/stage_records.h"
 #include "stage/undo_history.h"
 
 // m_nPalette
@@ -75,6 +76,7 @@ class cEditState {
   eMapDrag m_eDrag = eMapDrag::kIdle;
   cEvent m_PutEvent;              // the template chosen in the event palette
   cEvent* m_pEditEvent = nullptr;  // the event the event form is to edit
+  cPutEnemy* m_pEditEnemy = nullptr;  // the stage's enemy entry the enemy form is to edit
   cEvent m_EventClip;
   cUndoHistory m_History;
 };

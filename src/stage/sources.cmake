@@ -1,11 +1,15 @@
 target_sources(ortalune_core PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/chip_palette.cpp
   ${CMAKE_CURRENT_LIST_DIR}/edit_state.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/enemy_palette.cpp
   ${CMAKE_CURRENT_LIST_DIR}/event_menu.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/group_pos_edit.cpp
   ${CMAKE_CURRENT_LIST_DIR}/line_walk.cpp
   ${CMAKE_CURRENT_LIST_DIR}/map_cursor.cpp
   ${CMAKE_CURRENT_LIST_DIR}/map_edit.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/move_ai_rows.cpp
   ${CMAKE_CURRENT_LIST_DIR}/stage.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/stage_form_results.cpp
   ${CMAKE_CURRENT_LIST_DIR}/stage_open.cpp
   ${CMAKE_CURRENT_LIST_DIR}/stage_records.cpp
   ${CMAKE_CURRENT_LIST_DIR}/stage_snapshot.cpp

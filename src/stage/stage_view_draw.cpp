@@ -171,6 +171,16 @@ int DrawStageView(cSurface& buffer, const STAGE_VIEW& view) {
   return 1;
 }
 
+void DrawGroupPosView(cSurface& buffer, const MAP_VIEW& view, const VECTOR_CLASS<cMapPos>& positions) {
+  DrawCells(buffer, view);
+  DrawEnemies(buffer, view);
+  DrawEvents(buffer, view);
+  DrawMapGrid(buffer, view);
+  for (const cMapPos& pos : positions)
+    if (view.InView(pos.x, pos.y))
+      BlitSheetCell(buffer, view.PixelX(pos.x), view.PixelY(pos.y), g_aSheet[SHEET_ACCESSORY], 64, 64);
+}
+
 void DrawTerrainChip(cSurface& buffer, int px, int py, long long terrain) {
   long long sx, sy;
   if (TerrainChip(terrain, sx, sy)) BlitSheetCell(buffer, px, py, g_aSheet[SHEET_MAP_CHIP], sx, sy);

@@ -8,7 +8,9 @@
 #include <cstdint>
 #include <string>
 
+#include "kernel/vector_class.h"
 #include "media/surface.h"
+#include "stage/stage_records.h"
 
 // Sheets of g_aSheet that the map views draw from. All cells are 32 by 32.
 enum : int {
@@ -59,6 +61,11 @@ using STAGE_VIEW = MAP_VIEW;
 // and the result is 0; otherwise 1, and the status bar is due MapCoordText. Cells,
 // enemies and graphics that name nothing in their tables or sheets draw nothing.
 int DrawStageView(cSurface& buffer, const STAGE_VIEW& view);
+
+// The picture of the position group form: the map of g_Stage with its enemies and
+// events, the grid, and the position mark of the accessory sheet on each of `positions`
+// in view. It has no cursor, and no start positions.
+void DrawGroupPosView(cSurface& buffer, const MAP_VIEW& view, const VECTOR_CLASS<cMapPos>& positions);
 
 // The status bar text of a map view: "座標 (x,y)" in CP932.
 std::string MapCoordText(int x, int y);

@@ -20,6 +20,7 @@ struct cComboInit {
   const VECTOR_CLASS<std::string>* pLabelVector = nullptr;  // used when pLabels is null
   int nOffset = 0;                                          // the value of row 0
   const VECTOR_CLASS<int>* pValues = nullptr;               // if set, value = pValues[row]
+  int bKeepWithoutRow = 0;  // no row selected: Apply leaves the field alone
 };
 
 class cComboRules {
@@ -36,7 +37,7 @@ class cComboRules {
   // The row to select for the field.
   int Update() const { return RowOfValue(*m_Init.pData); }
   void Apply(int row, bool ownerUpdating) {
-    if (!ownerUpdating) *m_Init.pData = ValueOfRow(row);
+    if (!ownerUpdating && !(row < 0 && m_Init.bKeepWithoutRow)) *m_Init.pData = ValueOfRow(row);
   }
   // Replaces the rows and answers the row to select, keeping the value of row `curRow`
   // where it can: a new value table starts at row 0; without one, a value below the

@@ -26,6 +26,10 @@ struct cEditStrInit {
   int bWide = 0;      // 1: limits count characters as the game sees them
 };
 
+// A one-line field of at most `chars` characters as the game counts them, a double-byte
+// character counting as one.
+inline cEditStrInit WideLine(int chars) { return {.nLimit = chars + 1, .nLineLen = chars, .nMaxLines = 1, .bWide = 1}; }
+
 class cEditStrRules {
  public:
   void Bind(const cEditStrInit& init, cEditBox& box);

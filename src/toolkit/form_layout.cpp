@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSlider>
+#include <algorithm>
 
 #include "toolkit/ctrl_types.h"
 #include "toolkit/dlg_class.h"
@@ -76,11 +77,13 @@ cFormLayout& cFormLayout::Group(const char* title, int span) {
   EndGroup();
   int& row = m_pColumn != nullptr ? m_nColumnRow : m_nRow;
   int& col = m_pColumn != nullptr ? m_nColumnCol : m_nCol;
-  if (col != 0) ++row, col = 0;
+  // A box of a given span stands beside what the row holds; one without takes a row.
+  if (span <= 0 && col != 0) ++row, col = 0;
   auto* box = new QGroupBox(Utf8(title), m_pParent);
-  (m_pColumn != nullptr ? m_pColumn : m_pRoot)->addWidget(box, row, 0, 1, span > 0 ? span : -1);
+  (m_pColumn != nullptr ? m_pColumn : m_pRoot)->addWidget(box, row, col, 1, span > 0 ? span : -1);
   m_pGroup = new QGridLayout(box);
   m_nGroupRow = m_nGroupCol = 0;
+  m_nGroupSpan = span;
   return *this;
 }
 
@@ -89,6 +92,11 @@ cFormLayout& cFormLayout::EndGroup() {
   m_pGroup = nullptr;
   int& row = m_pColumn != nullptr ? m_nColumnRow : m_nRow;
   int& col = m_pColumn != nullptr ? m_nColumnCol : m_nCol;
+  if (m_nGroupSpan > 0) {
+    col += m_nGroupSpan;  // the row goes on beside the box
+    m_nGroupSpan = 0;
+    return *this;
+  }
   col = 0;
   ++row;
   return *this;

@@ -24,7 +24,8 @@ class cFormLayout {
   cFormLayout& NoMargins();
   // The next cell starts a new row.
   cFormLayout& Row();
-  // A titled box that takes the rest of the row; its cells are a grid of their own until EndGroup.
+  // A titled box that takes the rest of the row, or `span` cells of it beside what
+  // stands there; its cells are a grid of their own until EndGroup.
   cFormLayout& Group(const char* title, int span = 0);
   cFormLayout& EndGroup();
   // Side by side columns from the current row: the first call opens the band and its
@@ -58,6 +59,7 @@ class cFormLayout {
 
  private:
   cFormLayout& Put(QWidget* w, unsigned id, int span);
+  // The grid cells go into: the open group's, the column's, or the form's.
   QGridLayout* Grid() const;
 
   DLG_CLASS& m_Form;
@@ -66,6 +68,7 @@ class cFormLayout {
   QGridLayout* m_pGroup = nullptr;
   int m_nRow = 0, m_nCol = 0;
   int m_nGroupRow = 0, m_nGroupCol = 0;
+  int m_nGroupSpan = 0;
   QWidget* m_pLast = nullptr;
   // The band of columns and the column being filled; null outside a band.
   QHBoxLayout* m_pBand = nullptr;

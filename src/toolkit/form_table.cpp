@@ -1,6 +1,8 @@
 #include "toolkit/form_table.h"
 
+#include <QFontMetrics>
 #include <QLabel>
+#include <QStyle>
 #include <algorithm>
 #include <set>
 
@@ -61,7 +63,7 @@ cFormTable& cFormTable::AddPlace(eKind kind, const char* text, int span) {
 }
 
 cFormTable& cFormTable::Row() { return AddPlace(eKind::kRow); }
-cFormTable& cFormTable::Group(const char* title) { return AddPlace(eKind::kGroup, title); }
+cFormTable& cFormTable::Group(const char* title, int span) { return AddPlace(eKind::kGroup, title, span); }
 cFormTable& cFormTable::EndGroup() { return AddPlace(eKind::kEndGroup); }
 cFormTable& cFormTable::Column() { return AddPlace(eKind::kColumn); }
 cFormTable& cFormTable::EndColumns() { return AddPlace(eKind::kEndColumns); }
@@ -161,7 +163,45 @@ cFormTable& cFormTable::DisableBy(unsigned id) {
   return *this;
 }
 
+cFormTable& cFormTable::EnableWhen(unsigned id, int value) {
+  cEntry& e = Last();
+  e.valueRules.emplace_back(id, value);
+  e.enabled = nullptr;
+  return *this;
+}
+
+cFormTable& cFormTable::Named(const char* name) {
+  Last().name = name != nullptr ? name : "";
+  return *this;
+}
+
+cFormTable& cFormTable::FixedPitch(int columns) {
+  Last().fixedColumns = columns;
+  return *this;
+}
+
+cFormTable& cFormTable::KeepWithoutRow() {
+  if (auto* combo = dynamic_cast<CTRL_COMBO_CLASS<int>*>(Last().ctrl.get())) combo->m_Init.bKeepWithoutRow = 1;
+  return *this;
+}
+
 // --- layout ---
+
+namespace {
+
+// The Japanese gothic whose half-width characters are exactly half as wide as its
+// double-byte ones, so that rows padded by bytes line up.
+void UseFixedPitch(QWidget* w, int columns) {
+  QFont font(QStringLiteral("IPAGothic"));
+  font.setStyleHint(QFont::TypeWriter);
+  font.setFixedPitch(true);
+  font.setPointSizeF(w->font().pointSizeF());
+  w->setFont(font);
+  const int scroll = w->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  w->setMinimumWidth(QFontMetrics(font).horizontalAdvance(QLatin1Char('0')) * columns + scroll + 12);
+}
+
+}  // namespace
 
 void cFormTable::PutControl(cFormLayout& L, const cEntry& e, const std::string& fallbackName) const {
   const bool ownText = e.widget == eFormWidget::kCheck || e.widget == eFormWidget::kButton ||
@@ -203,7 +243,8 @@ void cFormTable::PutControl(cFormLayout& L, const cEntry& e, const std::string& 
   QWidget* made = L.Last();
   if (made == nullptr) return;
   if (buddy != nullptr) buddy->setBuddy(made);
-  const std::string& name = !e.text.empty() ? e.text : fallbackName;
+  if (e.fixedColumns > 0) UseFixedPitch(made, e.fixedColumns);
+  const std::string& name = !e.name.empty() ? e.name : !e.text.empty() ? e.text : fallbackName;
   made->setAccessibleName(QString::fromStdString(AccessibleText(name)));
 }
 
@@ -215,7 +256,7 @@ void cFormTable::Layout(cFormLayout& L, const std::string& formTitle) const {
       case eKind::kControl: PutControl(L, e, group.empty() ? formTitle : group); break;
       case eKind::kRow: L.Row(); break;
       case eKind::kGroup:
-        L.Group(e.text.c_str());
+        L.Group(e.text.c_str(), e.span);
         group = e.text;
         break;
       case eKind::kEndGroup:
@@ -281,13 +322,14 @@ bool cFormTable::Bind(DLG_CLASS& form) const {
 
 void cFormTable::UpdateEnable(DLG_CLASS& form) const {
   for (const cEntry& e : m_vecEntry) {
-    if (e.kind != eKind::kControl || (!e.enabled && e.ruleIds.empty())) continue;
+    if (e.kind != eKind::kControl || (!e.enabled && e.ruleIds.empty() && e.valueRules.empty())) continue;
     bool on = true;
     if (e.enabled) on = e.enabled();
     for (unsigned rule : e.ruleIds) {
       const bool set = form.Value(rule & 0x7FFFFFFFu) != 0;
       on = on && ((rule & 0x80000000u) ? !set : set);
     }
+    for (const auto& [id, value] : e.valueRules) on = on && form.Value(id) == value;
     form.EnableCtrl(e.id, on);
   }
 }
@@ -312,9 +354,12 @@ std::vector<std::string> cFormTable::Problems() const {
   for (const cEntry& e : m_vecEntry) {
     if (e.kind == eKind::kControl && e.id == 0)
       problems.push_back("a control of \"" + e.text + "\" has no id");
-    for (unsigned rule : e.ruleIds)
-      if (!seen.count(rule & 0x7FFFFFFFu))
-        problems.push_back("control " + std::to_string(e.id) + " is enabled by " + std::to_string(rule & 0x7FFFFFFFu) +
+    std::vector<unsigned> read;
+    for (unsigned rule : e.ruleIds) read.push_back(rule & 0x7FFFFFFFu);
+    for (const auto& rule : e.valueRules) read.push_back(rule.first);
+    for (unsigned id : read)
+      if (!seen.count(id))
+        problems.push_back("control " + std::to_string(e.id) + " is enabled by " + std::to_string(id) +
                            ", which the form does not declare");
   }
   return problems;

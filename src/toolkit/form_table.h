@@ -55,8 +55,9 @@ class cFormTable {
   // --- places ---
   // The next cell starts a new row.
   cFormTable& Row();
-  // A titled box that takes the rest of the row; its cells are a grid of their own.
-  cFormTable& Group(const char* title);
+  // A titled box that takes the rest of the row, or `span` cells of it beside what
+  // stands there; its cells are a grid of their own.
+  cFormTable& Group(const char* title, int span = 0);
   cFormTable& EndGroup();
   // Columns side by side from here: each call starts the next column at the right of
   // the last; EndColumns, or the OK row, closes them.
@@ -130,6 +131,16 @@ class cFormTable {
   // Enabled while the control `id` holds a non-zero value; disabled while it does.
   cFormTable& EnableBy(unsigned id);
   cFormTable& DisableBy(unsigned id);
+  // Enabled while the control `id` shows `value`. Rules of one control all must hold.
+  cFormTable& EnableWhen(unsigned id, int value);
+  // What a screen reader says of a control that has no label of its own beside it.
+  cFormTable& Named(const char* name);
+  // A list whose rows line up by their bytes: a fixed-pitch font in which a double-byte
+  // character takes two columns, and room for `columns` of them.
+  cFormTable& FixedPitch(int columns);
+  // A combo that shows no row for its field's value leaves the field as it was on OK,
+  // where a field of -1 would point at nothing.
+  cFormTable& KeepWithoutRow();
 
   // --- what the form does with the table ---
   // Builds the widgets in table order and registers each under its id. A control
@@ -169,6 +180,9 @@ class cFormTable {
     std::function<QWidget*(QWidget*)> makeView;
     std::function<bool()> enabled;
     std::vector<unsigned> ruleIds;  // the controls an enabling rule reads
+    std::vector<std::pair<unsigned, int>> valueRules;  // enabled while control shows value
+    std::string name;  // accessible name, when it is not the label's
+    int fixedColumns = 0;
   };
 
   cFormTable& Add(eFormWidget widget, unsigned id, const char* text, std::unique_ptr<CTRL_CLASS> ctrl,

@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "kernel/serial.h"
@@ -125,6 +126,9 @@ class CTRL_LIST_CLASS : public cListCtrlBase {
   }
   void ResizeElements(int size) override {
     if (m_pWork != nullptr) m_pWork->resize(size);
+  }
+  void SwapElements(int a, int b) override {
+    if (m_pWork != nullptr) std::swap((*m_pWork)[a], (*m_pWork)[b]);
   }
   void RowText(std::string& out, int e) const override {
     out.clear();

@@ -367,6 +367,16 @@ int cListCtrlBase::Resize(int n) {
   return 1;
 }
 
+int cListCtrlBase::MoveRow(int delta) {
+  const int row = GetSel(), to = row + delta;
+  if (!IsReal(row) || !IsReal(to)) return 0;
+  SwapElements(row + m_nFirstRow, to + m_nFirstRow);
+  SelectOnly(to, 0);
+  Redraw();
+  RedrawSel();
+  return 1;
+}
+
 int cListCtrlBase::Run(int op) {
   switch (op) {
     case kListCut: return Cut();
@@ -384,15 +394,21 @@ int cListCtrlBase::Run(int op) {
 int cListCtrlBase::HandleKeyCommand(unsigned id) {
   if (!m_Box.focus || id == 0) return 0;
   for (int op = 0; op < kListOpCount; ++op)
-    if (m_aKeyCmd[op] == id) return Run(op);
+    if (m_aKeyCmd[op] == id) return (m_nFormOps >> op) & 1 ? 0 : Run(op);
   return 0;
 }
 
 int cListCtrlBase::HandleMenuCommand(unsigned id) {
   if (!m_Box.focus || id == 0) return 0;
   for (int op = 0; op < kListOpCount; ++op)
-    if (m_aMenuCmd[op] == id) return Run(op);
+    if (m_aMenuCmd[op] == id) return (m_nFormOps >> op) & 1 ? 0 : Run(op);
   return 0;
+}
+
+int cListCtrlBase::OpOf(unsigned id) const {
+  for (int op = 0; op < kListOpCount && id != 0; ++op)
+    if (m_aKeyCmd[op] == id || m_aMenuCmd[op] == id) return op;
+  return -1;
 }
 
 std::vector<unsigned> cListCtrlBase::OnKey(int key, bool bCtrl) const {

@@ -96,11 +96,20 @@ class cListCtrlBase {
   int Clear();
   int Delete(int row, int bOnlySel);
   int Resize(int n);
+  // Swaps the selected row with the one `delta` rows away, and the selection follows
+  // it. 0, with nothing changed, when either row has no element.
+  int MoveRow(int delta);
 
   // Runs the operation of a command id when the box has the focus; its result, or 0
-  // for an id that is not the list's.
+  // for an id that is not the list's or whose operation the form runs itself.
   int HandleKeyCommand(unsigned id);
   int HandleMenuCommand(unsigned id);
+  // The operation a key or menu command id stands for in this list; -1 for none.
+  int OpOf(unsigned id) const;
+  // The form runs `op` itself (an insert that opens a form, a delete that makes an undo
+  // step): its key and menu item still send their ids to the form, and the list leaves
+  // them alone.
+  void LeaveToForm(int op) { m_nFormOps |= 1u << op; }
   // In a modal form, where no accelerators run: the command ids a key stands for,
   // which the form receives as commands. `key` is a virtual key code.
   std::vector<unsigned> OnKey(int key, bool bCtrl) const;
@@ -137,6 +146,7 @@ class cListCtrlBase {
   std::uint16_t m_aKeyCmd[kListOpCount];
   std::uint16_t m_aMenuCmd[kListOpCount];
   std::string m_strBlank;
+  unsigned m_nFormOps = 0;  // a bit per eListOp
 
  protected:
   struct cRowsInit {
@@ -165,6 +175,7 @@ class cListCtrlBase {
   virtual void Erase(int element) = 0;
   virtual void ResetElement(int element) = 0;
   virtual void ResizeElements(int size) = 0;
+  virtual void SwapElements(int a, int b) = 0;
   virtual void RowText(std::string& out, int element) const = 0;
 
   cListBox m_Box;

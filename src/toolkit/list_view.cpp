@@ -60,6 +60,7 @@ CTRL_LISTVIEW_CLASS::~CTRL_LISTVIEW_CLASS() {
     w->onSelChange = nullptr;
     w->onFocus = nullptr;
     w->onScrolled = nullptr;
+    w->onDoubleClick = nullptr;
   }
 }
 

@@ -83,11 +83,17 @@ cSpinButtons::cSpinButtons(QWidget* parent) : QWidget(parent) {
 
 cListWidget::cListWidget(QWidget* parent) : QListWidget(parent) {
   setContextMenuPolicy(Qt::NoContextMenu);
+  // As a list box, rows end at its right edge: the blank row's hyphens are wider than
+  // most lists and would otherwise bring a bar across every one of them.
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   connect(this, &QListWidget::itemSelectionChanged, this, [this] {
     if (onSelChange) onSelChange();
   });
   connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int) {
     if (onScrolled) onScrolled(indexAt(QPoint(1, 1)).row());
+  });
+  connect(this, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem*) {
+    if (onDoubleClick) onDoubleClick();
   });
 }
 
@@ -97,11 +103,6 @@ void cListWidget::mousePressEvent(QMouseEvent* e) {
 }
 
 QSize cListWidget::sizeHint() const { return {200, QListWidget::sizeHint().height()}; }
-
-void cListWidget::mouseDoubleClickEvent(QMouseEvent* e) {
-  QListWidget::mouseDoubleClickEvent(e);
-  if (e->button() == Qt::LeftButton && itemAt(e->position().toPoint()) != nullptr && onDoubleClick) onDoubleClick();
-}
 
 void cListWidget::mouseReleaseEvent(QMouseEvent* e) {
   if (e->button() == Qt::RightButton) {

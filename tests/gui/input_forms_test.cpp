@@ -9,26 +9,13 @@
 #include <functional>
 
 #include "forms/input_forms.h"
+#include "gui/modal_support.h"
 #include "platform/cp932.h"
 
 namespace {
 
 QLineEdit* InputEdit(DLG_CLASS& form) { return qobject_cast<QLineEdit*>(form.GetDlgItem(cInputForm::kIdInput)); }
 void Press(DLG_CLASS& form, unsigned id) { static_cast<QAbstractButton*>(form.GetDlgItem(id))->click(); }
-
-// Acts on the modal form that the next call opens; a missing form fails and closes what is open.
-void DuringModal(std::function<void(DLG_CLASS&)> during) {
-  QTimer::singleShot(0, [during] {
-    QWidget* w = QApplication::activeModalWidget();
-    DLG_CLASS* form = DLG_CLASS::FromWidget(w);
-    if (form == nullptr) {
-      ADD_FAILURE() << "no modal form";
-      if (w != nullptr) w->close();
-      return;
-    }
-    during(*form);
-  });
-}
 
 // Types `utf8` as an input method's commits, one character each.
 void Type(QWidget* w, const char* utf8) {

@@ -15,10 +15,13 @@
 #include "app/stage_commands.h"
 #include "editor/command_bar.h"
 #include "editor/dlg_chip.h"
+#include "editor/dlg_enemy.h"
+#include "editor/dlg_enemy_set.h"
 #include "editor/dlg_main.h"
 #include "editor/editor_shell.h"
 #include "editor/view_main.h"
 #include "gui/app_test_support.h"
+#include "gui/stage_form_support.h"
 #include "platform/cp932.h"
 #include "project/project_globals.h"
 #include "stage/edit_state.h"
@@ -135,6 +138,67 @@ TEST_F(StageEditorTest, LeavingWithChangesAsksAndCancelKeepsTheWindowAndTheFlags
 
   // Qt's own buttons speak Japanese.
   EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "&Yes"), QStringLiteral("はい(&Y)"));
+}
+
+TEST_F(StageEditorTest, AnEnemyInsertedInItsPaletteIsDrawnWithThePenAndItsRightDoubleClickOpensItsForm) {
+  QTest::keyClick(m_view->Dlg(), Qt::Key_Space);
+  DLG_ENEMY* palette = m_view->Dlg()->Enemy();
+  ASSERT_NE(palette, nullptr);
+  g_Stage.m_vecPutEnemy.clear();
+  palette->Refresh();
+  DuringModal([](DLG_CLASS& form) {
+    Choose(form, DLG_ENEMY_SET::kIdEnemy, 1);
+    Click(form, kIdOk);
+  });
+  Click(*palette, cEnemyList::kIdInsert);
+  ASSERT_EQ(g_Stage.m_vecPutEnemy.Count(), 1);
+  EXPECT_EQ(g_EditState.m_nSelected, 0) << "the new entry is the brush";
+
+  m_view->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(m_view));
+  QWidget* map = m_view->Dlg()->m_Map.m_hWnd;
+  QTest::mouseClick(map, Qt::LeftButton, {}, QPoint(2 * 32 + 5, 3 * 32 + 5));
+  EXPECT_EQ(std::make_pair(g_Stage.m_vecPutEnemy[0].m_nX, g_Stage.m_vecPutEnemy[0].m_nY), std::make_pair(2, 3));
+  EXPECT_TRUE(palette->m_Enemies.m_List.Box().rows[0].find("(2,3)") != std::string::npos);
+
+  bool opened = false;
+  DuringModal([&](DLG_CLASS& form) {
+    opened = DLG_ENEMY_SET::Live() == &form;
+    Click(form, kIdCancel);
+  });
+  const QPoint cell(2 * 32 + 5, 3 * 32 + 5);
+  QTest::mousePress(map, Qt::RightButton, {}, cell);
+  QTest::mouseRelease(map, Qt::RightButton, {}, cell);
+  QTest::mouseDClick(map, Qt::RightButton, {}, cell);
+  EXPECT_TRUE(opened);
+
+  // Space in the palette belongs to the main window: the next palette, and this one goes.
+  QWidget* list = palette->GetDlgItem(cEnemyList::kIdList);
+  list->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(list->window()));
+  list->setFocus();
+  ASSERT_EQ(QApplication::focusWidget(), list);
+  QTest::keyClick(list, Qt::Key_Space);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(g_EditState.m_nPalette, PALETTE_EVENT);
+  EXPECT_EQ(m_view->Dlg()->Enemy(), nullptr);
+}
+
+TEST_F(StageEditorTest, ConfirmedSettingsEmptyTheHistoryAndConfirmedGroupsKeepIt) {
+  QWidget* map = m_view->Dlg()->m_Map.m_hWnd;
+  QTest::mouseClick(map, Qt::LeftButton, {}, QPoint(5, 5));
+  ASSERT_TRUE(Menu(IDM_UNDO)->isEnabled());
+  g_EditState.m_bStageModified = 0;
+  DuringModal([](DLG_CLASS& form) { Click(form, kIdOk); });
+  Menu(IDM_POSITION_GROUPS)->trigger();
+  EXPECT_EQ(g_EditState.m_bStageModified, 1);
+  EXPECT_TRUE(Menu(IDM_UNDO)->isEnabled());
+
+  g_EditState.m_bStageModified = 0;
+  DuringModal([](DLG_CLASS& form) { Click(form, kIdOk); });
+  Menu(IDM_STAGE_SETTINGS)->trigger();
+  EXPECT_EQ(g_EditState.m_bStageModified, 1);
+  EXPECT_FALSE(Menu(IDM_UNDO)->isEnabled());
 }
 
 }  // namespace

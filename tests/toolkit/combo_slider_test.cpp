@@ -36,6 +36,13 @@ TEST(ComboRulesTest, RowsAndStoredValues) {
   EXPECT_EQ(field, 15);
   table.Apply(table.Update(), false);
   EXPECT_EQ(field, -1);
+  // A form may keep a field that no row stands for, where -1 would point at nothing.
+  field = 15;
+  table.Bind({2002, &field, kLabels, nullptr, 0, &values, 1});
+  table.Apply(table.Update(), false);
+  EXPECT_EQ(field, 15);
+  table.Apply(1, false);
+  EXPECT_EQ(field, 20);
 }
 
 TEST(ComboRulesTest, NewLabelsKeepTheValueWhereTheyCan) {

@@ -195,6 +195,31 @@ TEST_F(ListCtrlTest, KeysAndCommandIds) {
   EXPECT_EQ(m_list.HandleMenuCommand(40070), 0);  // a fixed table has no insert
 }
 
+TEST_F(ListCtrlTest, AnOperationLeftToTheFormKeepsItsIdsButTheListDoesNotRunIt) {
+  Make("abc");
+  m_list.SetIdSet(kListIdSets[kListFirstFree]);
+  m_list.LeaveToForm(kListDelete);
+  EXPECT_EQ(m_list.OnKey(0x2E, false), std::vector<unsigned>{40034});
+  EXPECT_EQ(m_list.OpOf(40034), kListDelete);
+  EXPECT_EQ(m_list.OpOf(40029), kListDelete);
+  EXPECT_EQ(m_list.HandleKeyCommand(40034), 0);
+  EXPECT_EQ(m_list.HandleMenuCommand(40029), 0);
+  EXPECT_EQ(Names(m_work), "a,b,c");
+  EXPECT_EQ(m_list.OpOf(40030), kListCut);
+  EXPECT_EQ(m_list.OpOf(1), -1);
+}
+
+TEST_F(ListCtrlTest, AMovedRowTakesTheSelectionAlongAndStopsAtTheEnds) {
+  Make("abc", {.bBlankRow = 1});
+  Click({1});
+  EXPECT_EQ(m_list.MoveRow(-1), 1);
+  EXPECT_EQ(std::make_tuple(Names(m_work), m_list.m_nCurSel, m_edit.m_strName), std::make_tuple("b,a,c", 0, "b"));
+  EXPECT_EQ(m_list.MoveRow(-1), 0);
+  Click({2});
+  EXPECT_EQ(m_list.MoveRow(1), 0) << "the blank row has no element to swap with";
+  EXPECT_EQ(Names(m_work), "b,a,c");
+}
+
 TEST_F(ListCtrlTest, EndOfCommandKeepsRowEditRecordAndControlsInStep) {
   struct cHost : cListCommandHost {
     std::string log;
