@@ -58,12 +58,8 @@ cFormLayout& cFormLayout::Put(QWidget* w, unsigned id, int span) {
   int& row = m_pGroup != nullptr ? m_nGroupRow : m_nRow;
   int& col = m_pGroup != nullptr ? m_nGroupCol : m_nCol;
   if (w != nullptr) {
-    if (m_pGroup != nullptr) {
-      m_pGroup->addWidget(w, row, col, 1, span);
-    } else {
-      m_pRoot->addWidget(w, row, m_nColBase + col, 1, span);
-      Used(row, m_nColBase + col + span);
-    }
+    Target()->addWidget(w, row, col, 1, span);
+    Used(row, col + span);
     m_Form.RegisterItem(id, w);
     m_pLast = w;
   }
@@ -75,8 +71,8 @@ cFormLayout& cFormLayout::Group(const char* title, int span) {
   EndGroup();
   if (span <= 0 && m_nCol != 0) Row();
   auto* box = new QGroupBox(Utf8(title), m_pParent);
-  m_pRoot->addWidget(box, m_nRow, m_nColBase + m_nCol, 1, span > 0 ? span : -1);
-  Used(m_nRow, m_nColBase + m_nCol + std::max(span, 1));
+  Target()->addWidget(box, m_nRow, m_nCol, 1, span > 0 ? span : -1);
+  Used(m_nRow, m_nCol + std::max(span, 1));
   m_pGroup = new QGridLayout(box);
   m_nGroupRow = m_nGroupCol = 0;
   m_nGroupSpan = span;
@@ -96,14 +92,28 @@ cFormLayout& cFormLayout::EndGroup() {
   return *this;
 }
 
+// A column is a grid of its own that spans every row of the form so far and one more,
+// which takes what height the column needs beyond them: the rows beside it keep theirs.
 cFormLayout& cFormLayout::Column() {
   EndGroup();
-  m_nColBase = m_nUsedCols;
+  auto* box = new QWidget(m_pParent);
+  m_pRoot->addWidget(box, 0, m_nUsedCols, m_nUsedRows + 1, 1, Qt::AlignTop);
+  m_pRoot->setRowStretch(m_nUsedRows, 1);
+  m_nUsedCols += 1;
+  m_nUsedRows += 1;
+  m_pColumn = new QGridLayout(box);
+  m_pColumn->setContentsMargins(0, 0, 0, 0);
   m_nRow = m_nCol = 0;
   return *this;
 }
 
+QGridLayout* cFormLayout::Target() const {
+  if (m_pGroup != nullptr) return m_pGroup;
+  return m_pColumn != nullptr ? m_pColumn : m_pRoot;
+}
+
 void cFormLayout::Used(int row, int colEnd) {
+  if (m_pGroup != nullptr || m_pColumn != nullptr) return;  // only the root grid's cells count
   m_nUsedRows = std::max(m_nUsedRows, row + 1);
   m_nUsedCols = std::max(m_nUsedCols, colEnd);
 }
@@ -211,6 +221,8 @@ cFormLayout& cFormLayout::OkCancel(bool cancel) {
     m_Form.RegisterItem(id, b);
     row->addWidget(b);
   }
+  if (m_pColumn != nullptr) m_nRow = 0;
+  m_pColumn = nullptr;
   m_nRow = std::max(m_nRow, m_nUsedRows);
   m_pRoot->addWidget(cell, m_nRow, 0, 1, -1);
   Used(m_nRow, 1);

@@ -27,8 +27,8 @@ class cFormLayout {
   // stands there; its cells are a grid of their own until EndGroup.
   cFormLayout& Group(const char* title, int span = 0);
   cFormLayout& EndGroup();
-  // The cells that follow stand in a new column to the right of all so far, from the
-  // top; OK and Cancel still end the form below all columns.
+  // The cells that follow stand in a column of their own to the right of all so far,
+  // from the top; OK and Cancel still end the form below all columns.
   cFormLayout& Column();
   // Leaves a cell empty.
   cFormLayout& Skip(int span = 1);
@@ -56,6 +56,8 @@ class cFormLayout {
 
  private:
   cFormLayout& Put(QWidget* w, unsigned id, int span);
+  // The grid the next cell goes into: the open group's, the column's or the root.
+  QGridLayout* Target() const;
   void Used(int row, int colEnd);
 
   DLG_CLASS& m_Form;
@@ -65,7 +67,7 @@ class cFormLayout {
   int m_nRow = 0, m_nCol = 0;
   int m_nGroupRow = 0, m_nGroupCol = 0;
   int m_nGroupSpan = 0;
-  int m_nColBase = 0;           // the first grid column of the current column
+  QGridLayout* m_pColumn = nullptr;      // the column being filled, if not the root
   int m_nUsedCols = 0, m_nUsedRows = 0;  // of the root grid so far
   QWidget* m_pLast = nullptr;
 };
