@@ -39,8 +39,14 @@ DLG_ENEMY::DLG_ENEMY(QWidget* owner, std::function<void(int)> keys, std::functio
 
 DLG_ENEMY::~DLG_ENEMY() { End(0); }
 
-void DLG_ENEMY::OnReady() {
+// A palette window; its flags are set before it is placed, since a change of flags
+// forgets the window's place.
+void DLG_ENEMY::OnInitDialog() {
   m_hWnd->setWindowFlag(Qt::Tool);
+  DLG_CLASS::OnInitDialog();
+}
+
+void DLG_ENEMY::OnReady() {
   m_hWnd->setFixedSize(m_hWnd->sizeHint());
   m_Enemies.Show(std::max(g_EditState.m_nListSel, 0));
   RedrawLists();

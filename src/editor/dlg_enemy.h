@@ -26,6 +26,7 @@ class DLG_ENEMY : public DLG_CLASS, public cLiveInstance<DLG_ENEMY> {
   cEnemyList m_Enemies;
 
  protected:
+  void OnInitDialog() override;
   void OnReady() override;
   void OnFormCommand(unsigned id, unsigned code) override;
   void OnKeyDown(int key, bool bCtrl) override;

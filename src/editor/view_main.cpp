@@ -228,6 +228,9 @@ void VIEW_MAIN::closeEvent(QCloseEvent* event) {
     return;
   }
   StorePlace();
+  // The palettes go with the window: they leave their places in the configuration
+  // before the exit saves it.
+  if (m_pDlg != nullptr) m_pDlg->ShowPalette(-1);
   event->accept();
 }
 

@@ -102,6 +102,8 @@ cFormLayout& cFormLayout::EndGroup() {
   return *this;
 }
 
+// A column is a grid of its own that spans every row of the form so far and one more,
+// which takes what height the column needs beyond them: the rows beside it keep theirs.
 cFormLayout& cFormLayout::Column() {
   EndGroup();
   if (m_pBand == nullptr) {

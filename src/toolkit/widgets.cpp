@@ -18,6 +18,8 @@ cNumberEdit::cNumberEdit(QWidget* parent) : QLineEdit(parent) {
   connect(this, &QLineEdit::textEdited, this, [this] {
     if (onEdited) onEdited();
   });
+  // However tight its form, a number keeps room for its digits: "-999999" and more.
+  setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("-0000000")));
 }
 
 void cNumberEdit::keyPressEvent(QKeyEvent* e) {

@@ -184,6 +184,15 @@ TEST_F(StageEditorTest, AnEnemyInsertedInItsPaletteIsDrawnWithThePenAndItsRightD
   EXPECT_EQ(m_view->Dlg()->Enemy(), nullptr);
 }
 
+TEST_F(StageEditorTest, ThePalettesLeaveTheirPlacesForTheNextStart) {
+  QTest::keyClick(m_view->Dlg(), Qt::Key_Space);
+  ASSERT_NE(m_view->Dlg()->Enemy(), nullptr);
+  g_EditConfig.m_PosEnemy.m_bValid = 0;
+  m_view->m_bAskOnClose = false;
+  m_view->close();
+  EXPECT_TRUE(g_EditConfig.m_PosEnemy.m_bValid);
+}
+
 TEST_F(StageEditorTest, ConfirmedSettingsEmptyTheHistoryAndConfirmedGroupsKeepIt) {
   QWidget* map = m_view->Dlg()->m_Map.m_hWnd;
   QTest::mouseClick(map, Qt::LeftButton, {}, QPoint(5, 5));
