@@ -4,6 +4,7 @@
 
 #include "editor/dlg_battle_mode.h"
 #include "editor/dlg_testplay.h"
+#include "forms/database/learn_skill_form.h"
 #include "forms/database/sense_form.h"
 #include "forms/database/slot_forms.h"
 #include "forms/graphic_chooser.h"
@@ -34,6 +35,7 @@ std::vector<unsigned char> AskedBytes() {
 cSlot g_Slot;
 cOrgSlotList g_OrgSlot;
 VECTOR_CLASS<std::int32_t> g_vecSense{3, 0, 7};
+cLearnSkill g_LearnSkill;
 
 std::vector<unsigned char> SenseBytes() {
   std::vector<unsigned char> bytes;
@@ -67,6 +69,8 @@ const std::vector<cFormCatalogEntry>& FormCatalog() {
       {"DLG_SLOT", [] { return std::make_unique<DLG_SLOT>(g_Slot, 0); }, [] { return SavedBytes(g_Slot); }},
       {"DLG_ORGSLOT", [] { return std::make_unique<DLG_ORGSLOT>(g_OrgSlot, 0); }, [] { return SavedBytes(g_OrgSlot); }},
       {"DLG_SENSE", [] { return std::make_unique<DLG_SENSE>(g_vecSense, 0); }, SenseBytes},
+      {"DLG_LEARNSKILL", [] { return std::make_unique<DLG_LEARNSKILL>(g_LearnSkill); },
+       [] { return SavedBytes(g_LearnSkill); }},
   };
   return catalog;
 }

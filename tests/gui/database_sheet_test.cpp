@@ -2,20 +2,9 @@
 // one apply that commits every page and writes the files, Cancel that leaves the files
 // as they were, and the class page with its lists and sub-forms.
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
 #include <QTabWidget>
-#include <QTest>
-#include <QTimer>
-#include <filesystem>
 
-#include "forms/database/database_sheet.h"
-#include "forms/database/db_class_page.h"
-#include "gui/app_test_support.h"
+#include "gui/database_sheet_fixture.h"
 #include "gui/form_probe.h"
 #include "platform/cp932.h"
 #include "project/project_globals.h"
@@ -25,53 +14,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* kClassFile = "data/database/Class.dat";
-
-class DatabaseSheetTest : public TemplateProjectTest {
- protected:
-  void SetUp() override {
-    TemplateProjectTest::SetUp();
-    fs::copy("default", "data", fs::copy_options::recursive);
-    ASSERT_TRUE(StartUp(m_shell));
-    m_pSheet = OpenDatabaseSheet(nullptr, [this] { ++m_ends; });
-    ASSERT_NE(m_pSheet, nullptr);
-    m_pClass = dynamic_cast<DLG_DBCLASS*>(m_pSheet->PageOfRow(0));
-    ASSERT_NE(m_pClass, nullptr);
-  }
-  void TearDown() override {
-    if (m_pSheet != nullptr && m_pSheet->IsOpen()) m_pSheet->Cancel();
-    QTest::qWait(1);
-    ShutDown();
-    TemplateProjectTest::TearDown();
-  }
-  QPushButton* SheetButton(const char* text) const {
-    for (QPushButton* b : m_pSheet->m_hWnd->findChildren<QPushButton*>())
-      if (b->text() == QString::fromUtf8(text)) return b;
-    return nullptr;
-  }
-  QListWidget* List(unsigned id) const { return static_cast<QListWidget*>(m_pClass->GetDlgItem(id)); }
-  void TypeClassName(const char* keys) {
-    auto* name = static_cast<QLineEdit*>(m_pClass->GetDlgItem(DLG_DBCLASS::kName));
-    name->setFocus();
-    QTest::keyClick(name, Qt::Key_End);
-    QTest::keyClicks(name, keys);
-  }
-  // Answers the next modal form with `value` in its number edit and OK.
-  static void AnswerNumber(int value) {
-    QTimer::singleShot(0, [value] {
-      QWidget* w = QApplication::activeModalWidget();
-      ASSERT_NE(w, nullptr);
-      QLineEdit* edit = w->findChild<QLineEdit*>();
-      edit->setText(QString::number(value));
-      for (QPushButton* b : w->findChildren<QPushButton*>())
-        if (b->text() == "OK") b->click();
-    });
-  }
-
-  cRecordingShell m_shell;
-  PROP_DATABASE* m_pSheet = nullptr;
-  DLG_DBCLASS* m_pClass = nullptr;
-  int m_ends = 0;
-};
 
 TEST_F(DatabaseSheetTest, TheClassPageComesFirstWithItsPaddedTabAndEveryControlNamed) {
   auto* tabs = m_pSheet->m_hWnd->findChild<QTabWidget*>();

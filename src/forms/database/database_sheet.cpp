@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "forms/database/db_class_page.h"
+#include "forms/database/db_friend_page.h"
 #include "platform/cp932.h"
 #include "platform/diagnostics.h"
 #include "project/project_files.h"
@@ -16,7 +17,7 @@ std::unique_ptr<cDatabasePage> Make() {
 
 constexpr cDatabasePageRow kPages[kDatabasePageCount] = {
     {"クラス", 2, Make<DLG_DBCLASS>},
-    {"味方キャラ", 1, nullptr},
+    {"味方キャラ", 1, Make<DLG_DBFRIEND>},
     {"敵キャラ", 1, nullptr},
     {"スキル", 2, nullptr},
     {"相性タイプ", 0, nullptr},

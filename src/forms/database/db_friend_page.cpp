@@ -1,0 +1,42 @@
+#include "forms/database/db_friend_page.h"
+
+#include "database/class_rows.h"
+#include "forms/database/learn_skill_form.h"
+#include "project/project_globals.h"
+
+DLG_DBFRIEND::DLG_DBFRIEND() : cCharaPage(g_vecFriend, "味方キャラ", {1, 1, 999}) {
+  cFriend& E = m_Edit;
+  cFormTable& F = Table();
+  F.Column();
+  MainList(kList, "味方キャラ", [](const cFriend& c) { return c.m_strName; }, 20);
+
+  F.Column();
+  m_Chara.DeclareProfile(F, E);
+  m_Chara.DeclareGrowth(F, E);
+  F.Check(kRandomSense, "ランダムセンス上昇", &E.m_bRandomSense).Span(2).Row();
+  F.Check(kRandomSkill, "ランダムスキル習得", &E.m_bRandomSkill).Span(2).Row();
+
+  F.Column();
+  m_Chara.DeclareStatus(F, E);
+
+  F.Column();
+  m_Learn.Declare(F, "習得スキル", &E.m_vecLearnSkill, 999, LearnSkillRowText, kListSecondFree, 10);
+  F.Check(kInShop, "最初から仲間屋へ登録", &E.m_bInShop).Span(3).Row();
+  F.Check(kAnyTimes, "何回でも雇える", &E.m_bAnyTimes).Span(3).Row();
+  F.Check(kNoRelease, "放出不可能", &E.m_bNoRelease).Span(3).Row();
+  F.Check(kRegenerate, "ステージクリアごとに仲間屋にいるキャラを再生成", &E.m_bRegenerate).Span(3).Row();
+  F.EndColumns();
+
+  m_Chara.FillNames(*this);
+}
+
+void DLG_DBFRIEND::OnReady() {
+  cCharaPage::OnReady();
+  m_Learn.OnReady();
+}
+
+void DLG_DBFRIEND::OnFormCommand(unsigned id, unsigned code) {
+  const auto edit = [this](cLearnSkill& learn) { return EditRecord<DLG_LEARNSKILL>(learn, m_hWnd.data()); };
+  if (m_Learn.OnCommand(id, code, edit)) m_List.CommitRow();
+  cCharaPage::OnFormCommand(id, code);
+}
