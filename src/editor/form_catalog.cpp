@@ -4,6 +4,7 @@
 
 #include "editor/dlg_battle_mode.h"
 #include "editor/dlg_testplay.h"
+#include "forms/database/battle_ai_forms.h"
 #include "forms/database/learn_skill_form.h"
 #include "forms/database/sense_form.h"
 #include "forms/database/slot_forms.h"
@@ -36,6 +37,8 @@ cSlot g_Slot;
 cOrgSlotList g_OrgSlot;
 VECTOR_CLASS<std::int32_t> g_vecSense{3, 0, 7};
 cLearnSkill g_LearnSkill;
+cBattleAI g_BattleAI;
+cBattleAICond g_BattleAICond;
 
 std::vector<unsigned char> SenseBytes() {
   std::vector<unsigned char> bytes;
@@ -71,6 +74,9 @@ const std::vector<cFormCatalogEntry>& FormCatalog() {
       {"DLG_SENSE", [] { return std::make_unique<DLG_SENSE>(g_vecSense, 0); }, SenseBytes},
       {"DLG_LEARNSKILL", [] { return std::make_unique<DLG_LEARNSKILL>(g_LearnSkill); },
        [] { return SavedBytes(g_LearnSkill); }},
+      {"DLG_BATTLEAI", [] { return std::make_unique<DLG_BATTLEAI>(g_BattleAI); }, [] { return SavedBytes(g_BattleAI); }},
+      {"DLG_BATTLEAI_COND", [] { return std::make_unique<DLG_BATTLEAI_COND>(g_BattleAICond); },
+       [] { return SavedBytes(g_BattleAICond); }},
   };
   return catalog;
 }

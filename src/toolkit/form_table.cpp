@@ -130,6 +130,11 @@ cFormTable& cFormTable::LabelAbove() {
   return *this;
 }
 
+cFormTable& cFormTable::Name(const char* name) {
+  Last().name = name;
+  return *this;
+}
+
 cFormTable& cFormTable::Lines(int lines) {
   Last().nLines = lines;
   return *this;
@@ -189,7 +194,7 @@ void cFormTable::PutControl(cFormLayout& L, const cEntry& e, const std::string& 
   QWidget* made = L.Last();
   if (made == nullptr) return;
   if (buddy != nullptr) buddy->setBuddy(made);
-  const std::string& name = !e.text.empty() ? e.text : fallbackName;
+  const std::string& name = !e.name.empty() ? e.name : !e.text.empty() ? e.text : fallbackName;
   made->setAccessibleName(QString::fromStdString(AccessibleText(name)));
 }
 

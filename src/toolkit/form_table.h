@@ -118,6 +118,9 @@ class cFormTable {
   cFormTable& Span(int cells);
   // The label stands above the control, in a row of its own.
   cFormTable& LabelAbove();
+  // What a screen reader says of a control without a label of its own, whose meaning
+  // stands in a neighbour's text (a number after the check that switches it on).
+  cFormTable& Name(const char* name);
   // Lines of a text box, rows of a list.
   cFormTable& Lines(int lines);
   // Enabled while `rule` holds, evaluated by UpdateEnable after every change.
@@ -154,6 +157,7 @@ class cFormTable {
     std::uint16_t id = 0;
     std::uint16_t partnerId = 0;  // a number edit's spin, a slider's mirror
     std::string text;             // label, or the text of a check, button or fixed text
+    std::string name;             // the accessible name where the label does not give it
     int span = 1;
     int nLines = 1;
     int width = 0, height = 0;

@@ -8,7 +8,11 @@
 #include <QTabWidget>
 #include <map>
 
+#include "database/ai_labels.h"
+#include "database/ai_summary.h"
 #include "database/chara_preview.h"
+#include "forms/database/battle_ai_forms.h"
+#include "forms/database/db_enemy_page.h"
 #include "forms/database/db_friend_page.h"
 #include "forms/database/learn_skill_form.h"
 #include "gui/database_sheet_fixture.h"
@@ -69,10 +73,12 @@ class CharaPagesTest : public DatabaseSheetTest {
     ASSERT_TRUE(SaveAllDatabaseFiles());
     m_Saved = DatabaseFiles();
     m_vecFriend = g_vecFriend;
+    m_vecEnemy = g_vecEnemy;
   }
 
   Files m_Saved;
   VECTOR_CLASS<cFriend> m_vecFriend;
+  VECTOR_CLASS<cEnemy> m_vecEnemy;
 };
 
 TEST_F(CharaPagesTest, TheAllyPageShowsItsRowAndFollowsEveryChangeWithThePreview) {
@@ -162,41 +168,108 @@ TEST_F(CharaPagesTest, ASkillToLearnIsInsertedThroughItsFormAndCancelTakesItOutA
   EXPECT_EQ(Saved(g_vecFriend), table) << "the table waits for the apply";
 }
 
-TEST_F(CharaPagesTest, CancelLeavesTablesAndFilesAndApplyWritesWhatThePagesShow) {
-  auto* page = ShowPage<DLG_DBFRIEND>(1);
-  // A name file past the list is kept through every change of the row.
-  page->m_vecWork[1].m_nNameFile = 40;
-  Click(ListOf(*page, DLG_DBFRIEND::kList), 1);
-  Click(ListOf(*page, DLG_DBFRIEND::kList), 0);
-  TypeInto(*page, cCharaControls::kName, "A");
+TEST_F(CharaPagesTest, TheEnemyPageRatesItsPreviewAndFixesItsEXOnlyWhenAsked) {
+  auto* page = ShowPage<DLG_DBENEMY>(2);
+  ASSERT_NE(page, nullptr);
+  EXPECT_EQ(m_pSheet->m_hWnd->findChild<QTabWidget*>()->tabText(2), QStringLiteral("\u3000敵キャラ\u3000"));
+  EXPECT_EQ(ProbeOpenForm(*page), std::vector<std::string>{});
+  EXPECT_EQ(Columns(*page), Expected(g_vecEnemy[1]));
+  auto* fix = static_cast<QAbstractButton*>(page->GetDlgItem(DLG_DBENEMY::kFixEX));
+  QWidget* value = page->GetDlgItem(DLG_DBENEMY::kFixEXValue);
+  EXPECT_EQ(value->isEnabled(), fix->isChecked());
+  fix->click();
+  EXPECT_EQ(value->isEnabled(), fix->isChecked());
+  EXPECT_EQ(page->m_vecWork[1].m_bFixEX, fix->isChecked() ? 1 : 0);
+}
+
+TEST_F(CharaPagesTest, ABattleAIInsertedAndCancelledLeavesTheListAsItWas) {
+  auto* page = ShowPage<DLG_DBENEMY>(2);
+  Click(ListOf(*page, DLG_DBENEMY::kAI), 0);
+  const std::vector<unsigned char> before = Saved(page->m_vecWork[1].m_vecBattleAI);
   WhenModal([](DLG_CLASS& form) {
-    TypeInto(form, DLG_LEARNSKILL::kLevel, "9");
-    form.SendCommand(kIdOk, kNotifyClicked);
+    // The skill boxes wait for an action that uses a skill.
+    EXPECT_FALSE(form.GetDlgItem(DLG_BATTLEAI::kSkill)->isEnabled());
+    static_cast<QComboBox*>(form.GetDlgItem(DLG_BATTLEAI::kAction))->setCurrentIndex(kAISkill);
+    form.SendCommand(DLG_BATTLEAI::kAction, kNotifySelChange);
+    EXPECT_TRUE(form.GetDlgItem(DLG_BATTLEAI::kSkill)->isEnabled());
+    form.SendCommand(kIdCancel, kNotifyClicked);
   });
-  Click(ListOf(*page, DLG_DBFRIEND::kLearn), 0);
-  page->SendCommand(DLG_DBFRIEND::kLearn, kNotifyDblClk);
-  ASSERT_EQ(page->m_vecWork[1].m_vecLearnSkill[0].m_nLevel, 19);
+  page->SendCommand(DLG_DBENEMY::kAIInsert, kNotifyClicked);
+  EXPECT_EQ(Saved(page->m_vecWork[1].m_vecBattleAI), before);
+  EXPECT_EQ(ListOf(*page, DLG_DBENEMY::kAI)->count(), g_vecEnemy[1].m_vecBattleAI.Count() + 1);
+}
 
+// The edits a user makes on the character pages and in their sub-forms: a name typed
+// on each, a skill to learn raised to level 19, and a battle AI inserted with one
+// condition; the same edits made on copies of the tables.
+class CharaEditsTest : public CharaPagesTest {
+ protected:
+  void EditPages() {
+    auto* ally = ShowPage<DLG_DBFRIEND>(1);
+    // A name file past the list is kept through every change of the row.
+    ally->m_vecWork[1].m_nNameFile = 40;
+    Click(ListOf(*ally, DLG_DBFRIEND::kList), 1);
+    Click(ListOf(*ally, DLG_DBFRIEND::kList), 0);
+    TypeInto(*ally, cCharaControls::kName, "A");
+    WhenModal([](DLG_CLASS& form) {
+      TypeInto(form, DLG_LEARNSKILL::kLevel, "9");
+      form.SendCommand(kIdOk, kNotifyClicked);
+    });
+    Click(ListOf(*ally, DLG_DBFRIEND::kLearn), 0);
+    ally->SendCommand(DLG_DBFRIEND::kLearn, kNotifyDblClk);
+    m_vecFriend[1].m_strName += "A";
+    m_vecFriend[1].m_nNameFile = 40;
+    m_vecFriend[1].m_vecLearnSkill[0].m_nLevel = 19;
+
+    auto* enemy = ShowPage<DLG_DBENEMY>(2);
+    TypeInto(*enemy, cCharaControls::kName, "E");
+    Click(ListOf(*enemy, DLG_DBENEMY::kAI), 0);
+    WhenModal([](DLG_CLASS& form) {
+      static_cast<QComboBox*>(form.GetDlgItem(DLG_BATTLEAI::kAction))->setCurrentIndex(kAISkill);
+      form.SendCommand(DLG_BATTLEAI::kAction, kNotifySelChange);
+      WhenModal([](DLG_CLASS& cond) {
+        TypeInto(cond, DLG_BATTLEAI_COND::kValue, "50");
+        static_cast<QAbstractButton*>(cond.GetDlgItem(DLG_BATTLEAI_COND::kPercent))->click();
+        cond.SendCommand(kIdOk, kNotifyClicked);
+      });
+      form.SendCommand(DLG_BATTLEAI::kCondInsert, kNotifyClicked);
+      EXPECT_EQ(ListOf(form, DLG_BATTLEAI::kConds)->item(0)->text().toStdString(), "自分 の HP が 50％ である");
+      form.SendCommand(kIdOk, kNotifyClicked);
+    });
+    enemy->SendCommand(DLG_DBENEMY::kAIInsert, kNotifyClicked);
+    cBattleAI ai;
+    ai.m_nAction = kAISkill;
+    ai.m_nSkill = 1;
+    ai.m_vecCond.emplace_back();
+    ai.m_vecCond[0].m_nValue = 50;
+    ai.m_vecCond[0].m_bPercent = 1;
+    m_vecEnemy[1].m_strName += "E";
+    m_vecEnemy[1].m_vecBattleAI.insert(m_vecEnemy[1].m_vecBattleAI.begin(), ai);
+    EXPECT_EQ(ListOf(*enemy, DLG_DBENEMY::kAI)->item(0)->text().toStdString(), Cp932ToUtf8Lossy(SummaryBattleAI(ai)));
+  }
+};
+
+TEST_F(CharaEditsTest, ApplyWritesWhatThePagesShowAndNoOtherFile) {
+  EditPages();
   SheetButton("適用")->click();
-  VECTOR_CLASS<cFriend> expected = m_vecFriend;
-  expected[1].m_strName += "A";
-  expected[1].m_nNameFile = 40;
-  expected[1].m_vecLearnSkill[0].m_nLevel = 19;
-  ASSERT_TRUE(SaveVector(expected, "expected.dat"));
+  ASSERT_TRUE(SaveVector(m_vecFriend, "friend.dat"));
+  ASSERT_TRUE(SaveVector(m_vecEnemy, "enemy.dat"));
   Files files = DatabaseFiles();
-  EXPECT_EQ(files["Friend.dat"], FileBytes("expected.dat"));
-  files.erase("Friend.dat");
-  m_Saved.erase("Friend.dat");
-  EXPECT_EQ(files, m_Saved) << "no other file changes";
+  EXPECT_EQ(files["Friend.dat"], FileBytes("friend.dat"));
+  EXPECT_EQ(files["Enemy.dat"], FileBytes("enemy.dat"));
+  for (Files* f : {&files, &m_Saved}) f->erase("Friend.dat"), f->erase("Enemy.dat");
+  EXPECT_EQ(files, m_Saved);
+}
 
-  // After the apply, more edits and Cancel: the tables and files stay as applied.
-  const Files applied = DatabaseFiles();
-  const std::vector<unsigned char> table = Saved(g_vecFriend);
-  TypeInto(*page, cCharaControls::kName, "B");
+TEST_F(CharaEditsTest, CancelAfterEditsOnEveryPageLeavesTablesAndFilesAsTheyWere) {
+  const std::vector<unsigned char> classes = Saved(g_vecClass), allies = Saved(g_vecFriend), enemies = Saved(g_vecEnemy);
   TypeClassName("C");
+  EditPages();
   SheetButton("キャンセル")->click();
-  EXPECT_EQ(DatabaseFiles(), applied);
-  EXPECT_EQ(Saved(g_vecFriend), table);
+  EXPECT_EQ(DatabaseFiles(), m_Saved);
+  EXPECT_EQ(Saved(g_vecClass), classes);
+  EXPECT_EQ(Saved(g_vecFriend), allies);
+  EXPECT_EQ(Saved(g_vecEnemy), enemies);
 }
 
 }  // namespace

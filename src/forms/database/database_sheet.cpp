@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "forms/database/db_class_page.h"
+#include "forms/database/db_enemy_page.h"
 #include "forms/database/db_friend_page.h"
 #include "platform/cp932.h"
 #include "platform/diagnostics.h"
@@ -18,7 +19,7 @@ std::unique_ptr<cDatabasePage> Make() {
 constexpr cDatabasePageRow kPages[kDatabasePageCount] = {
     {"クラス", 2, Make<DLG_DBCLASS>},
     {"味方キャラ", 1, Make<DLG_DBFRIEND>},
-    {"敵キャラ", 1, nullptr},
+    {"敵キャラ", 1, Make<DLG_DBENEMY>},
     {"スキル", 2, nullptr},
     {"相性タイプ", 0, nullptr},
     {"地形", 2, nullptr},
