@@ -76,7 +76,7 @@ class cTablePage : public cDatabasePage {
     init.nFirstRow = m_Rows.nFirstRow;
     init.bBlankRow = 1;
     init.pfnRowText = [rowText](std::string& out, int, const R& r) { out = rowText(r); };
-    Table().List(listId, label, m_List, init, kListFirstFixed, shownRows).Span(3).Row();
+    Table().List(listId, label, m_List, init, kListFirstFixed, shownRows).LabelAbove().Span(3).Row();
     Table().Button(kIdNew, "新規").Button(kIdClear, "ｸﾘｱ").Button(kIdCount, "ﾃﾞｰﾀ数").Row();
   }
 

@@ -68,4 +68,11 @@ TEST_F(DatabaseSheetTest, AFileThatCannotBeWrittenIsNamedToTheUser) {
   EXPECT_NE(m_prompt.shown[0].text.find("Class.dat"), std::string::npos);
 }
 
+TEST_F(DatabaseSheetTest, TheSheetWithItsRichestPagesFitsAScreenOf1024By768) {
+  for (int row : {0, 1, 2}) m_pSheet->SetCurrentPage(row);
+  const QSize least = m_pSheet->m_hWnd->minimumSizeHint();
+  EXPECT_LE(least.width(), 1024);
+  EXPECT_LE(least.height(), 768 - 40) << "and room for a title bar";
+}
+
 }  // namespace

@@ -30,7 +30,7 @@ void cCharaControls::DeclareProfile(cFormTable& F, cChara& E) {
 void cCharaControls::DeclareGrowth(cFormTable& F, cChara& E) {
   F.Check(kRandomGrowth, "ランダム能力値成長", &E.m_bRandomGrowth).Span(2).Row();
   F.EditVal(kGrowthTime, "成長時期", &E.m_nGrowthTime, -10, 10, 1, kGrowthTimeSpin).DisableBy(kRandomGrowth).Row();
-  F.Text("☆（早熟）-10 ～ 10（晩成）、0なら一律", 2).Row();
+  F.Text("☆（早熟）-10 ～ 10（晩成）、\n0なら一律", 2).Row();
 }
 
 void cCharaControls::DeclareStatus(cFormTable& F, cChara& E) {
@@ -41,7 +41,7 @@ void cCharaControls::DeclareStatus(cFormTable& F, cChara& E) {
     F.EditVal(kFinal + s, "", &E.m_anFinal[s], 0, 999999);
     F.Label(kGame + s).Label(kReference + s).Row();
   }
-  F.Text("※初期値が「0」なら、クラスの設定に準ずる", 5).Row();
+  F.Text("※初期値が「0」なら、\nクラスの設定に準ずる", 5).Row();
   F.EndGroup();
 }
 

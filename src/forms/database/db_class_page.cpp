@@ -57,12 +57,12 @@ DLG_DBCLASS::DLG_DBCLASS() : cTablePage(g_vecClass, "クラス", {1, 1, 999}) {
     F.EditVal(kInit + s, kSystemStatusLabels[s], &E.m_anInit[s], 0, 999999);
     F.EditVal(kFinal + s, "", &E.m_anFinal[s], 0, 999999).Row();
   }
-  F.Text("※最終値が「0」なら、初期値と同じ（成長しない）。\nさらにランダム能力値成長の対象外となる", 3).Row();
+  F.Text("※最終値が「0」なら、\n初期値と同じ（成長しない）。\nさらにランダム能力値成長の\n対象外となる", 3).Row();
   F.EndGroup();
   F.Group("通常攻撃");
   m_Attack.DeclareList(F, "通常攻撃", &E.m_nAtkList).DisableBy(kNoAttack).Row();
   m_Attack.DeclareSkill(F, "", &E.m_nAtkSkill).Span(2).DisableBy(kNoAttack).Row();
-  F.Check(kNoAttack, "通常攻撃なし（オート戦闘のみ有効）", &E.m_bNoAttack).Span(2).Row();
+  F.Check(kNoAttack, "通常攻撃なし\n（オート戦闘のみ有効）", &E.m_bNoAttack).Span(2).Row();
   F.EndGroup();
 
   F.Column();
@@ -85,7 +85,7 @@ DLG_DBCLASS::DLG_DBCLASS() : cTablePage(g_vecClass, "クラス", {1, 1, 999}) {
       .LabelAbove()
       .Row();
   F.Button(kOrgSlotEdit, "編集").Row();
-  F.Text("※スキルグループの設定で「スロット数とカテゴリーの制限有り」にしないと反映されない").Row();
+  F.Text("※スキルグループの設定で\n「スロット数とカテゴリーの制限有り」に\nしないと反映されない").Row();
   F.EndColumns();
 
   m_Attack.FillLists(*this, E.m_nAtkList);

@@ -15,16 +15,14 @@ DLG_DBFRIEND::DLG_DBFRIEND() : cCharaPage(g_vecFriend, "味方キャラ", {1, 1,
   m_Chara.DeclareGrowth(F, E);
   F.Check(kRandomSense, "ランダムセンス上昇", &E.m_bRandomSense).Span(2).Row();
   F.Check(kRandomSkill, "ランダムスキル習得", &E.m_bRandomSkill).Span(2).Row();
+  F.Check(kInShop, "最初から仲間屋へ登録", &E.m_bInShop).Span(2).Row();
+  F.Check(kAnyTimes, "何回でも雇える", &E.m_bAnyTimes).Span(2).Row();
+  F.Check(kNoRelease, "放出不可能", &E.m_bNoRelease).Span(2).Row();
+  F.Check(kRegenerate, "ステージクリアごとに仲間屋にいる\nキャラを再生成", &E.m_bRegenerate).Span(2).Row();
 
   F.Column();
   m_Chara.DeclareStatus(F, E);
-
-  F.Column();
-  m_Learn.Declare(F, "習得スキル", &E.m_vecLearnSkill, 999, LearnSkillRowText, kListSecondFree, 10);
-  F.Check(kInShop, "最初から仲間屋へ登録", &E.m_bInShop).Span(3).Row();
-  F.Check(kAnyTimes, "何回でも雇える", &E.m_bAnyTimes).Span(3).Row();
-  F.Check(kNoRelease, "放出不可能", &E.m_bNoRelease).Span(3).Row();
-  F.Check(kRegenerate, "ステージクリアごとに仲間屋にいるキャラを再生成", &E.m_bRegenerate).Span(3).Row();
+  m_Learn.Declare(F, "習得スキル", &E.m_vecLearnSkill, 999, LearnSkillRowText, kListSecondFree, 8);
   F.EndColumns();
 
   m_Chara.FillNames(*this);
