@@ -50,9 +50,23 @@ class cCharaControls {
 template <class R>
 class cCharaPage : public cTablePage<R> {
  public:
-  using cTablePage<R>::cTablePage;
+  // Both character tables have the reserved row 0 and 1..999 rows.
+  cCharaPage(VECTOR_CLASS<R>& table, const char* title) : cTablePage<R>(table, title, {1, 1, 999}) {
+    m_Chara.FillNames(*this);
+  }
 
  protected:
+  // The first two columns: the main list `listId` labelled `title`, then the profile
+  // and the growth, below which the page goes on.
+  void DeclareLeading(unsigned listId, const char* title) {
+    cFormTable& F = this->Table();
+    F.Column();
+    this->MainList(listId, title, [](const R& c) { return c.m_strName; }, 20);
+    F.Column();
+    m_Chara.DeclareProfile(F, this->m_Edit);
+    m_Chara.DeclareGrowth(F, this->m_Edit);
+  }
+
   void OnStale() override { m_Chara.FillNames(*this); }
   // Another row, or a refreshed page: the columns follow.
   void UpdateAllExcept(unsigned id) override {

@@ -4,15 +4,10 @@
 #include "forms/database/battle_ai_forms.h"
 #include "project/project_globals.h"
 
-DLG_DBENEMY::DLG_DBENEMY() : cCharaPage(g_vecEnemy, "敵キャラ", {1, 1, 999}) {
+DLG_DBENEMY::DLG_DBENEMY() : cCharaPage(g_vecEnemy, "敵キャラ") {
   cEnemy& E = m_Edit;
   cFormTable& F = Table();
-  F.Column();
-  MainList(kList, "敵キャラ", [](const cEnemy& c) { return c.m_strName; }, 20);
-
-  F.Column();
-  m_Chara.DeclareProfile(F, E);
-  m_Chara.DeclareGrowth(F, E);
+  DeclareLeading(kList, "敵キャラ");
   F.Check(kFixEX, "獲得EXを固定 →", &E.m_bFixEX);
   F.EditVal(kFixEXValue, "", &E.m_nFixEX, 0, 9999).Name("獲得EXを固定").EnableBy(kFixEX).Row();
   F.Group("撃破時の獲得金");
@@ -28,7 +23,6 @@ DLG_DBENEMY::DLG_DBENEMY() : cCharaPage(g_vecEnemy, "敵キャラ", {1, 1, 999})
                kListSecondFree, 6);
   F.EndColumns();
 
-  m_Chara.FillNames(*this);
   FillMoneyNames();
 }
 

@@ -4,15 +4,10 @@
 #include "forms/database/learn_skill_form.h"
 #include "project/project_globals.h"
 
-DLG_DBFRIEND::DLG_DBFRIEND() : cCharaPage(g_vecFriend, "味方キャラ", {1, 1, 999}) {
+DLG_DBFRIEND::DLG_DBFRIEND() : cCharaPage(g_vecFriend, "味方キャラ") {
   cFriend& E = m_Edit;
   cFormTable& F = Table();
-  F.Column();
-  MainList(kList, "味方キャラ", [](const cFriend& c) { return c.m_strName; }, 20);
-
-  F.Column();
-  m_Chara.DeclareProfile(F, E);
-  m_Chara.DeclareGrowth(F, E);
+  DeclareLeading(kList, "味方キャラ");
   F.Check(kRandomSense, "ランダムセンス上昇", &E.m_bRandomSense).Span(2).Row();
   F.Check(kRandomSkill, "ランダムスキル習得", &E.m_bRandomSkill).Span(2).Row();
   F.Check(kInShop, "最初から仲間屋へ登録", &E.m_bInShop).Span(2).Row();
@@ -24,8 +19,6 @@ DLG_DBFRIEND::DLG_DBFRIEND() : cCharaPage(g_vecFriend, "味方キャラ", {1, 1,
   m_Chara.DeclareStatus(F, E);
   m_Learn.Declare(F, "習得スキル", &E.m_vecLearnSkill, 999, LearnSkillRowText, kListSecondFree, 8);
   F.EndColumns();
-
-  m_Chara.FillNames(*this);
 }
 
 void DLG_DBFRIEND::OnReady() {
