@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "database/skill_acquisition.h"
 #include "platform/cp932.h"
 #include "project/project_globals.h"
 
@@ -57,4 +58,10 @@ std::string OrgSlotRowText(int list, cOrgSlotList& slots) {
 
 std::string CategValueRowText(int list, int categ, int value) {
   return WithNumber(CategName(list, categ), value, " %d");
+}
+
+std::string LearnSkillRowText(const cLearnSkill& learn) {
+  const cSkill* skill = FindSkill(learn.m_nList, learn.m_nSkill);
+  const std::string categ = skill != nullptr ? CategName(learn.m_nList, skill->m_nCateg) : std::string();
+  return WithNumber("LV", learn.m_nLevel, "%d ") + categ + "-" + (skill != nullptr ? skill->m_strName : std::string());
 }

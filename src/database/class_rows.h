@@ -1,10 +1,11 @@
 #pragma once
-// The row texts of the class page's lists and of the slot forms, in CP932. They read
-// the skill lists and elements as the tables stand (what the sheet last applied).
+// The row texts of the database pages' lists and of their sub-forms, in CP932. They
+// read the skill lists and elements as the tables stand (what the sheet last applied).
 
 #include <cstdint>
 #include <string>
 
+#include "database/chara.h"
 #include "database/chara_class.h"
 
 // "無制限" for a slot open to every category, else "%s " with each condition's
@@ -22,3 +23,5 @@ std::string OrgSlotRowText(int list, cOrgSlotList& slots);
 std::string CategValueRowText(int list, int categ, int value);
 // The name of category `categ` of list `list`; empty where either is missing.
 std::string CategName(int list, int categ);
+// "LV%d %s-%s": the level, the name of the skill's category and the skill's name.
+std::string LearnSkillRowText(const cLearnSkill& learn);

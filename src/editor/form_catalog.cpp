@@ -14,6 +14,8 @@
 #include "editor/dlg_testplay.h"
 #include "forms/database/db_compati_page.h"
 #include "forms/database/db_help_page.h"
+#include "forms/database/battle_ai_forms.h"
+#include "forms/database/learn_skill_form.h"
 #include "forms/database/sense_form.h"
 #include "forms/database/slot_forms.h"
 #include "forms/graphic_chooser.h"
@@ -46,6 +48,9 @@ cOrgSlotList g_OrgSlot;
 cInfl g_Infl;
 cEdHelpText g_HelpText;
 VECTOR_CLASS<std::int32_t> g_vecSense{3, 0, 7};
+cLearnSkill g_LearnSkill;
+cBattleAI g_BattleAI;
+cBattleAICond g_BattleAICond;
 
 std::vector<unsigned char> SenseBytes() {
   std::vector<unsigned char> bytes;
@@ -121,6 +126,11 @@ const std::vector<cFormCatalogEntry>& FormCatalog() {
       {"DLG_STAGE", [] { return std::make_unique<DLG_STAGE>(g_Stage, nullptr); }, [] { return SavedBytes(g_Stage); }},
       {"DLG_ENDCOND", [] { return std::make_unique<DLG_ENDCOND>(g_CatalogLine, nullptr); },
        [] { return SavedBytes(g_CatalogLine); }},
+      {"DLG_LEARNSKILL", [] { return std::make_unique<DLG_LEARNSKILL>(g_LearnSkill); },
+       [] { return SavedBytes(g_LearnSkill); }},
+      {"DLG_BATTLEAI", [] { return std::make_unique<DLG_BATTLEAI>(g_BattleAI); }, [] { return SavedBytes(g_BattleAI); }},
+      {"DLG_BATTLEAI_COND", [] { return std::make_unique<DLG_BATTLEAI_COND>(g_BattleAICond); },
+       [] { return SavedBytes(g_BattleAICond); }},
   };
   return catalog;
 }

@@ -85,6 +85,13 @@ class cTablePage : public cDatabasePage {
 
   void OnReady() override { m_bShown = true; }
 
+  // A list over a vector of the edit record (cut, paste, delete by its keys) changed
+  // it: the row takes the change before another selection could drop it.
+  void UpdateAllExcept(unsigned id) override {
+    if (id != 0 && id != m_List.m_nId) m_List.CommitRow();
+    cDatabasePage::UpdateAllExcept(id);
+  }
+
   void OnSetActive() override {
     const int sel = m_List.GetSel();
     m_List.Select(m_List.IsReal(sel) ? sel : 0, 1);

@@ -36,8 +36,14 @@ class cComboRules {
 
   // The row to select for the field.
   int Update() const { return RowOfValue(*m_Init.pData); }
+  // A box with rows but none selected shows a value that none of them stands for (a
+  // name file past the list, a reference the list no longer reaches): the field keeps
+  // it, since every Apply of the form would otherwise overwrite it with -1.
   void Apply(int row, bool ownerUpdating) {
-    if (!ownerUpdating && !(row < 0 && m_Init.bKeepWithoutRow)) *m_Init.pData = ValueOfRow(row);
+    // A value no row shows stays where the box asks for it, or while the box has rows
+    // at all (a row the user cannot have chosen); else it becomes the no-row value.
+    if (ownerUpdating || (row < 0 && (m_Init.bKeepWithoutRow || !m_vecRows.empty()))) return;
+    *m_Init.pData = ValueOfRow(row);
   }
   // Replaces the rows and answers the row to select, keeping the value of row `curRow`
   // where it can: a new value table starts at row 0; without one, a value below the

@@ -90,6 +90,11 @@ bool cEditValCtrl::BindBox(DLG_CLASS* owner, unsigned id, unsigned spinId) {
   return true;
 }
 
+void cEditValCtrl::FitRange(double nMin, double nMax, int places) {
+  if (auto* edit = dynamic_cast<cNumberEdit*>(m_hWnd.data()))
+    edit->FitText(QString::fromStdString(EditValWidestText(nMin, nMax, places)));
+}
+
 cEditBox cEditValCtrl::Box() const {
   cEditBox box;
   ReadEditBox(m_hWnd, box);

@@ -42,6 +42,8 @@ class cEditValCtrl : public CTRL_CLASS {
 
  protected:
   bool BindBox(DLG_CLASS* owner, unsigned id, unsigned spinId);
+  // The box takes the room of the widest value of its range.
+  void FitRange(double nMin, double nMax, int places);
   virtual cEditValCore& Core() = 0;
   cEditBox Box() const;
   void Show(const cEditBox& box) { WriteEditBox(m_hWnd, box); }
@@ -54,6 +56,8 @@ class CTRL_EDITVAL_CLASS : public cEditValCtrl {
 
   bool Bind(DLG_CLASS* owner) override {
     if (!BindBox(owner, m_Init.nId, m_Init.nSpinId)) return false;
+    FitRange(static_cast<double>(m_Init.nMin), static_cast<double>(m_Init.nMax),
+             PlacesOfStep(static_cast<double>(m_Init.nStep)));
     cEditBox box = Box();
     m_Rules.Bind(m_Init, box);
     Show(box);

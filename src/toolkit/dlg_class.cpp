@@ -213,7 +213,9 @@ void DLG_CLASS::OnInitDialog() {
   Place();
   InstallAccelerators();
   m_Table.Bind(*this);
+  m_bFirstFill = true;
   UpdateAll();
+  m_bFirstFill = false;
   UpdateEnable();
   m_bReady = 1;
   OnReady();

@@ -161,6 +161,9 @@ class DLG_CLASS : public WND_CLASS, public cListCommandHost {
   int m_nResult = 0;
   WND_CLASS* m_lpParentClass = nullptr;
   int m_bUpdating = 0;
+  // Set while OnInitDialog fills the screen for the first time: the lists, which their
+  // binding has just filled from their sources, need no second copy.
+  bool m_bFirstFill = false;
   int m_bHoldEsc = 0;  // Escape is swallowed, not passed to the form nor its window
   std::vector<CTRL_CLASS*> m_vecCtrl;
   CTRL_SCROLL_CLASS* m_pScrollH = nullptr;

@@ -87,6 +87,13 @@ int PlacesOfStep(double step) {
   return places;
 }
 
+std::string EditValWidestText(double nMin, double nMax, int places) {
+  const auto shown = [places](double v) { return places > 0 ? FormatFixed(v, places) : FormatInt(v); };
+  std::string a = shown(nMin), b = shown(nMax);
+  std::string& widest = a.size() >= b.size() ? a : b;
+  return widest.substr(0, 12);
+}
+
 bool EditValCharPasses(unsigned code) {
   return (code >= '0' && code <= '9') || code == '-' || code == '.' || code == 8 || (code >= 1 && code <= 39);
 }

@@ -50,6 +50,10 @@ constexpr eValKind ValKindOf() {
 // 0.5 gives 1, 0.25 gives 2.
 int PlacesOfStep(double step);
 
+// The longest text a box of this range shows, for the room it takes on the screen: the
+// longer of the two bounds with the places shown, at most 12 characters.
+std::string EditValWidestText(double nMin, double nMax, int places);
+
 // True when a typed character code may enter the box: digits, "-", ".", backspace and
 // the control codes 1 to 39. Everything else vanishes without a beep.
 bool EditValCharPasses(unsigned code);

@@ -65,7 +65,7 @@ CTRL_LISTVIEW_CLASS::~CTRL_LISTVIEW_CLASS() {
 }
 
 void CTRL_LISTVIEW_CLASS::Update() {
-  m_List.Update();
+  if (!m_pOwner->m_bFirstFill) m_List.Update();
   Sync();
 }
 

@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -79,6 +80,10 @@ bool PROP_CLASS::Create(QWidget* parent, const char* caption) {
   g_WndList.AddSheet(this);
   if (!m_vecPage.empty()) SetCurrentPage(0);
   QObject::connect(m_pTabs, &QTabWidget::currentChanged, window, [this](int i) { SetCurrentPage(i); });
+  // A sheet of many pages opens no larger than the screen can show; its pages make do
+  // with less than the room they would like.
+  window->adjustSize();
+  if (QScreen* screen = window->screen()) window->resize(window->size().boundedTo(screen->availableGeometry().size()));
   window->show();
   return true;
 }

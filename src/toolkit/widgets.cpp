@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionFrame>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -20,6 +22,17 @@ cNumberEdit::cNumberEdit(QWidget* parent) : QLineEdit(parent) {
   });
   // However tight its form, a number keeps room for its digits: "-999999" and more.
   setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("-0000000")));
+}
+
+void cNumberEdit::FitText(const QString& widest) {
+  ensurePolished();
+  QStyleOptionFrame option;
+  initStyleOption(&option);
+  const QMargins margins = textMargins();
+  // The line edit's own horizontal margin is 2 pixels on each side, and the cursor one more.
+  const int text = fontMetrics().horizontalAdvance(widest) + margins.left() + margins.right() + 5;
+  const QSize size = style()->sizeFromContents(QStyle::CT_LineEdit, &option, QSize(text, fontMetrics().height()), this);
+  setMinimumWidth(size.width());
 }
 
 void cNumberEdit::keyPressEvent(QKeyEvent* e) {

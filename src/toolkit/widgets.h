@@ -21,6 +21,9 @@ class cNumberEdit : public QLineEdit {
   explicit cNumberEdit(QWidget* parent = nullptr);
   std::function<void()> onEdited;
   std::function<void()> onFocusOut;
+  // Never narrower than `widest` needs, so that a form squeezed to fit the screen still
+  // shows every number of its range whole.
+  void FitText(const QString& widest);
 
  protected:
   void keyPressEvent(QKeyEvent* e) override;

@@ -1,4 +1,4 @@
-// The row texts of the class page's lists and of the slots.
+// The row texts of the database pages' lists and of the slots.
 
 #include <gtest/gtest.h>
 
@@ -18,6 +18,9 @@ class ClassRowsTest : public ::testing::Test {
     list.m_vecCateg.resize(2);
     list.m_vecCateg[0].m_strName = CP932_TEXT("剣");
     list.m_vecCateg[1].m_strName = CP932_TEXT("槍");
+    list.m_vecSkill.resize(2);
+    list.m_vecSkill[1].m_strName = CP932_TEXT("突き");
+    list.m_vecSkill[1].m_nCateg = 1;
   }
   void TearDown() override { ResetProjectGlobals(); }
 };
@@ -41,6 +44,15 @@ TEST_F(ClassRowsTest, SenseAndValueRowsNameTheirEntries) {
   EXPECT_EQ(SenseRowText(0, VECTOR_CLASS<std::int32_t>{3, 12}), CP932_TEXT("武器 - 剣3 槍12 "));
   EXPECT_EQ(CategValueRowText(0, 1, 40), CP932_TEXT("槍 40"));
   EXPECT_EQ(CategValueRowText(3, 0, 5), " 5") << "a list that is gone names nothing";
+}
+
+TEST_F(ClassRowsTest, ASkillToLearnShowsItsLevelCategoryAndName) {
+  cLearnSkill learn;
+  learn.m_nSkill = 1;
+  learn.m_nLevel = 12;
+  EXPECT_EQ(LearnSkillRowText(learn), CP932_TEXT("LV12 槍-突き"));
+  learn.m_nSkill = 7;  // past the list's skills: no names, and no fault
+  EXPECT_EQ(LearnSkillRowText(learn), "LV12 -");
 }
 
 }  // namespace

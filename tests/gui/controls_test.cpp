@@ -77,14 +77,14 @@ TEST(ListControl, RowsSelectionEditRecordAndCommitAgree) {
   form.End(0);
 }
 
-TEST(Combo, AValueOutsideTheTableShowsNoRowAndShrunkLabelsKeepTheLastRow) {
+TEST(Combo, AValueOutsideTheTableShowsNoRowAndKeepsItsFieldAndShrunkLabelsKeepTheLastRow) {
   DLG_ROWS form(VECTOR_CLASS<int>{1});
   ASSERT_TRUE(form.Create(0, false));
   auto* combo = static_cast<QComboBox*>(form.GetDlgItem(DLG_ROWS::kCombo));
   EXPECT_EQ(combo->count(), 3);
   EXPECT_EQ(combo->currentIndex(), -1);
   form.ApplyAll();
-  EXPECT_EQ(form.m_nChoice, -1);
+  EXPECT_EQ(form.m_nChoice, 25) << "a value no row shows is kept, not overwritten";
 
   auto& ctrl = *form.GetCtrl<CTRL_COMBO_CLASS<int>>(DLG_ROWS::kCombo);
   ctrl.m_Init.pValues = nullptr;  // plain rows: value = row

@@ -12,9 +12,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTest>
-#include <QTimer>
-#include <filesystem>
 
 #include "forms/database/database_sheet.h"
 #include "forms/database/db_class_page.h"
@@ -25,6 +22,7 @@
 #include "forms/database/db_small_pages.h"
 #include "kernel/record_vector_file.h"
 #include "gui/app_test_support.h"
+#include "gui/database_sheet_fixture.h"
 #include "gui/form_probe.h"
 #include "platform/cp932.h"
 #include "project/project_globals.h"
@@ -279,6 +277,13 @@ TEST_F(DatabaseSheetTest, AFileThatCannotBeWrittenIsNamedToTheUser) {
   SheetButton("適用")->click();
   ASSERT_EQ(m_prompt.shown.size(), 1u);
   EXPECT_NE(m_prompt.shown[0].text.find("Class.dat"), std::string::npos);
+}
+
+TEST_F(DatabaseSheetTest, TheSheetWithItsRichestPagesFitsAScreenOf1024By768) {
+  for (int row : {0, 1, 2}) m_pSheet->SetCurrentPage(row);
+  const QSize least = m_pSheet->m_hWnd->minimumSizeHint();
+  EXPECT_LE(least.width(), 1024);
+  EXPECT_LE(least.height(), 768 - 40) << "and room for a title bar";
 }
 
 }  // namespace

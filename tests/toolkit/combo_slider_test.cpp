@@ -30,11 +30,17 @@ TEST(ComboRulesTest, RowsAndStoredValues) {
   const std::pair<int, int> toTable[] = {{2, 20}, {3, -1}, {-1, -1}};
   for (auto [row, value] : toTable) EXPECT_EQ(table.ValueOfRow(row), value) << row;
 
+  // A value no row stands for stays in the field; an empty box stores -1.
   field = 15;
   EXPECT_EQ(table.Update(), -1);
   table.Apply(table.Update(), true);
   EXPECT_EQ(field, 15);
   table.Apply(table.Update(), false);
+  EXPECT_EQ(field, 15);
+  const VECTOR_CLASS<std::string> none;
+  cComboRules empty;
+  empty.Bind({2004, &field, nullptr, &none, 0, nullptr});
+  empty.Apply(empty.Update(), false);
   EXPECT_EQ(field, -1);
   // A form may keep a field that no row stands for, where -1 would point at nothing.
   field = 15;

@@ -115,3 +115,10 @@ TEST(EditValRulesTest, FieldMovesOnlyThroughApplyAndUpdateDropsHalfTypedText) {
   r.Apply(box, false);
   EXPECT_EQ(field, 10);
 }
+
+TEST(EditValRulesTest, TheWidestTextOfARangeGivesTheBoxItsRoom) {
+  EXPECT_EQ(EditValWidestText(-359, 359, 0), "-359");
+  EXPECT_EQ(EditValWidestText(0, 999999, 0), "999999");
+  EXPECT_EQ(EditValWidestText(0, 100, PlacesOfStep(0.5)), "100.0");
+  EXPECT_EQ(EditValWidestText(-1e30, 1e30, 2).size(), 12u) << "a huge range does not take the whole screen";
+}

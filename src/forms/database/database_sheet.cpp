@@ -8,6 +8,8 @@
 #include "forms/database/db_land_page.h"
 #include "forms/database/db_media_pages.h"
 #include "forms/database/db_small_pages.h"
+#include "forms/database/db_enemy_page.h"
+#include "forms/database/db_friend_page.h"
 #include "platform/cp932.h"
 #include "platform/diagnostics.h"
 #include "project/project_files.h"
@@ -26,8 +28,8 @@ std::unique_ptr<cDatabasePage> MakeMedia() {
 
 constexpr cDatabasePageRow kPages[kDatabasePageCount] = {
     {"クラス", 2, Make<DLG_DBCLASS>},
-    {"味方キャラ", 1, nullptr},
-    {"敵キャラ", 1, nullptr},
+    {"味方キャラ", 1, Make<DLG_DBFRIEND>},
+    {"敵キャラ", 1, Make<DLG_DBENEMY>},
     {"スキル", 2, nullptr},
     {"相性タイプ", 0, Make<DLG_DBSKILLTYPE>},
     {"地形", 2, Make<DLG_DBLAND>},

@@ -57,12 +57,12 @@ DLG_DBCLASS::DLG_DBCLASS() : cTablePage(g_vecClass, "クラス", {1, 1, 999}) {
     F.EditVal(kInit + s, kSystemStatusLabels[s], &E.m_anInit[s], 0, 999999);
     F.EditVal(kFinal + s, "", &E.m_anFinal[s], 0, 999999).Row();
   }
-  F.Text("※最終値が「0」なら、初期値と同じ\n（成長しない）。さらにランダム能力値\n成長の対象外となる", 3).Row();
+  F.Text("※最終値が「0」なら、\n初期値と同じ（成長しない）。\nさらにランダム能力値成長の\n対象外となる", 3).Row();
   F.EndGroup();
   F.Group("通常攻撃");
-  F.Combo(kAtkList, "通常攻撃", &E.m_nAtkList, &m_vecListNames).DisableBy(kNoAttack).Row();
-  F.Combo(kAtkSkill, "", &E.m_nAtkSkill, &m_vecSkillNames, &m_vecSkillValues).Span(2).DisableBy(kNoAttack).Row();
-  F.Check(kNoAttack, "通常攻撃なし（オート戦闘のみ有効）", &E.m_bNoAttack).Span(2).Row();
+  m_Attack.DeclareList(F, "通常攻撃", &E.m_nAtkList).DisableBy(kNoAttack).Row();
+  m_Attack.DeclareSkill(F, "", &E.m_nAtkSkill).Span(2).DisableBy(kNoAttack).Row();
+  F.Check(kNoAttack, "通常攻撃なし\n（オート戦闘のみ有効）", &E.m_bNoAttack).Span(2).Row();
   F.EndGroup();
 
   F.Column();
@@ -85,31 +85,10 @@ DLG_DBCLASS::DLG_DBCLASS() : cTablePage(g_vecClass, "クラス", {1, 1, 999}) {
       .LabelAbove()
       .Row();
   F.Button(kOrgSlotEdit, "編集").Row();
-  F.Text("※スキルグループの設定で「スロット数と\nカテゴリーの制限有り」にしないと反映されない").Row();
+  F.Text("※スキルグループの設定で\n「スロット数とカテゴリーの制限有り」に\nしないと反映されない").Row();
   F.EndColumns();
 
-  FillAttackLists();
-}
-
-void DLG_DBCLASS::FillAttackLists() {
-  m_vecListNames.clear();
-  for (const cSkillList& list : g_vecSkillList) m_vecListNames.push_back(list.m_strName);
-  FillAttackSkills(m_Edit.m_nAtkList);
-}
-
-void DLG_DBCLASS::FillAttackSkills(int list) {
-  m_vecSkillNames.clear();
-  m_vecSkillValues.clear();
-  if (list >= 0 && list < g_vecSkillList.Count()) {
-    const VECTOR_CLASS<cSkill>& skills = g_vecSkillList[list].m_vecSkill;
-    for (int i = 1; i < skills.Count(); ++i) {
-      m_vecSkillNames.push_back(skills[i].m_strName);
-      m_vecSkillValues.push_back(i);
-    }
-  }
-  // Before the window stands the box takes its rows when it is bound.
-  if (!m_hWnd) return;
-  if (auto* combo = GetCtrl<CTRL_COMBO_CLASS<int>>(kAtkSkill)) combo->SetLabels(m_vecSkillNames, &m_vecSkillValues);
+  m_Attack.FillLists(*this, E.m_nAtkList);
 }
 
 void DLG_DBCLASS::OnReady() {
@@ -122,10 +101,7 @@ void DLG_DBCLASS::OnSetActive() {
   UpdatePreview();
 }
 
-void DLG_DBCLASS::OnStale() {
-  FillAttackLists();
-  if (auto* combo = GetCtrl<CTRL_COMBO_CLASS<int>>(kAtkList)) combo->SetLabels(m_vecListNames);
-}
+void DLG_DBCLASS::OnStale() { m_Attack.FillLists(*this, m_Edit.m_nAtkList); }
 
 void DLG_DBCLASS::UpdatePreview() {
   auto* picture = GetCtrl<CTRL_PICTURE_CLASS>(kPreview);
@@ -176,22 +152,15 @@ void DLG_DBCLASS::OnFormCommand(unsigned id, unsigned code) {
         if (auto* edit = GetCtrl<CTRL_EDITVAL_CLASS<int>>(kGraphic)) edit->SetValue(graphic, true);
       break;
     }
-    case kAtkList:
-      // The skill box follows the list box, on its first row.
-      if (m_bReady && code == kNotifySelChange) {
-        FillAttackSkills(Value(kAtkList));
-        m_Edit.m_nAtkSkill = m_vecSkillValues.empty() ? 0 : m_vecSkillValues[0];
-        if (auto* combo = GetCtrl<CTRL_COMBO_CLASS<int>>(kAtkSkill)) combo->Update();
-      }
-      break;
     default: break;
   }
+  m_Attack.OnCommand(*this, id, code);
   cTablePage::OnFormCommand(id, code);
 }
 
 void DLG_DBCLASS::UpdateAllExcept(unsigned id) {
   // Another row: its list's skills first, so that the skill box finds its value.
-  FillAttackSkills(m_Edit.m_nAtkList);
+  m_Attack.FillSkills(*this, m_Edit.m_nAtkList);
   cTablePage::UpdateAllExcept(id);
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "database/chara_class.h"
+#include "forms/database/skill_pair.h"
 #include "forms/table_page.h"
 
 class DLG_DBCLASS : public cTablePage<cClass> {
@@ -26,9 +27,6 @@ class DLG_DBCLASS : public cTablePage<cClass> {
   void UpdateAllExcept(unsigned id) override;
 
  private:
-  // The normal attack's second box from the list chosen in the first.
-  void FillAttackSkills(int list);
-  void FillAttackLists();
   // The tinted graphic, made again only when one of its four values changed.
   void UpdatePreview();
   void EditSense();
@@ -36,8 +34,7 @@ class DLG_DBCLASS : public cTablePage<cClass> {
   // A sub-list changed the edit record: its row, and the screen, follow.
   void SubListChanged(cListCtrlBase& list);
 
-  VECTOR_CLASS<std::string> m_vecListNames, m_vecSkillNames;
-  VECTOR_CLASS<int> m_vecSkillValues;
+  cSkillPair m_Attack{kAtkList, kAtkSkill};
   CTRL_LIST_CLASS<VECTOR_CLASS<std::int32_t>> m_Sense;
   CTRL_LIST_CLASS<std::int32_t> m_Resist;
   CTRL_LIST_CLASS<cOrgSlotList> m_OrgSlot;

@@ -1,0 +1,157 @@
+// The database sheet on the large project (999 classes, allies and enemies), each step
+// against the plain widget work underneath it, measured in the same run:
+//
+//   opening the sheet on page 0       filling a plain list widget with the same 999 row
+//   bringing page 1, then page 2,     texts, shown; and that with the copy of the table
+//     to the front for the first time   that a page works on, which it cannot do without
+//   Apply                             SaveAllDatabase alone
+//
+// The sheet runs on Qt's offscreen platform.
+
+#include <benchmark/benchmark.h>
+
+#include "large_project.h"
+#include "ratio_reporter.h"
+
+#include <QApplication>
+#include <QListWidget>
+#include <cstdio>
+#include <memory>
+#include <vector>
+
+#include "event/event_names.h"
+#include "forms/database/database_sheet.h"
+#include "platform/heap_pages.h"
+#include "toolkit/wnd_class.h"
+
+namespace {
+
+std::unique_ptr<cLargeProject> g_pProject;
+
+cLargeProject& Project() {
+  if (!g_pProject) g_pProject = std::make_unique<cLargeProject>();
+  return *g_pProject;
+}
+
+// Lets Qt lay out and paint what was shown, and delete what was closed.
+void Settle() {
+  QCoreApplication::processEvents();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void CloseSheet(PROP_DATABASE* sheet) {
+  sheet->Cancel();
+  Settle();
+}
+
+// A plain list widget shown with the rows of a main list: the row number and the name.
+void ShowPlainList() {
+  auto list = std::make_unique<QListWidget>();
+  for (int row = 1; row < g_vecClass.Count(); ++row)
+    list->addItem(QString::fromStdString(Cp932ToUtf8Lossy(NumberedLabel(row, g_vecClass[row].m_strName))));
+  list->show();
+  Settle();
+}
+
+void BM_PlainList(benchmark::State& state) {
+  Project();
+  for (auto _ : state) ShowPlainList();
+}
+
+// What a page cannot do without: its working copy of the table, and the list.
+void BM_CopyAndPlainList(benchmark::State& state) {
+  Project();
+  const int page = static_cast<int>(state.range(0));
+  VECTOR_CLASS<cFriend> allies;
+  VECTOR_CLASS<cEnemy> enemies;
+  for (auto _ : state) {
+    if (page == 1) allies = g_vecFriend;
+    else enemies = g_vecEnemy;
+    ShowPlainList();
+    // The page's copy goes with the sheet, which is not timed either.
+    state.PauseTiming();
+    allies.clear();
+    enemies.clear();
+    state.ResumeTiming();
+  }
+}
+
+void BM_OpenSheet(benchmark::State& state) {
+  Project();
+  for (auto _ : state) {
+    PROP_DATABASE* sheet = OpenDatabaseSheet(nullptr, {});
+    Settle();
+    state.PauseTiming();
+    CloseSheet(sheet);
+    state.ResumeTiming();
+  }
+}
+
+void BM_ShowPage(benchmark::State& state) {
+  Project();
+  const int page = static_cast<int>(state.range(0));
+  for (auto _ : state) {
+    state.PauseTiming();
+    PROP_DATABASE* sheet = OpenDatabaseSheet(nullptr, {});
+    Settle();
+    state.ResumeTiming();
+    sheet->SetCurrentPage(page);
+    Settle();
+    state.PauseTiming();
+    CloseSheet(sheet);
+    state.ResumeTiming();
+  }
+}
+
+void BM_Apply(benchmark::State& state) {
+  Project();
+  PROP_DATABASE* sheet = OpenDatabaseSheet(nullptr, {});
+  for (int page : {1, 2}) sheet->SetCurrentPage(page);
+  Settle();
+  for (auto _ : state) sheet->Apply();
+  CloseSheet(sheet);
+}
+
+void BM_SaveAllDatabase(benchmark::State& state) {
+  Project();
+  for (auto _ : state) {
+    if (!SaveAllDatabaseFiles()) state.SkipWithError("a file was skipped");
+  }
+}
+
+BENCHMARK(BM_PlainList)->Unit(benchmark::kMillisecond)->MinTime(1.0);
+BENCHMARK(BM_CopyAndPlainList)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->MinTime(1.0)->MinWarmUpTime(1.0);
+BENCHMARK(BM_OpenSheet)->Unit(benchmark::kMillisecond)->MinTime(1.0);
+BENCHMARK(BM_ShowPage)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->MinTime(1.0);
+BENCHMARK(BM_Apply)->Unit(benchmark::kMillisecond)->MinTime(2.0);
+BENCHMARK(BM_SaveAllDatabase)->Unit(benchmark::kMillisecond)->MinTime(2.0);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  RestartWithHugePageHeap(argv);  // as the editor does at its start
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication app(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  cRatioReporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  const double list = reporter.Time("BM_PlainList/min_time:1.000");
+  const double save = reporter.Time("BM_SaveAllDatabase/min_time:2.000");
+  if (list > 0) {
+    std::printf("Opening the sheet on page 0: %.2f times a plain list of the same rows (target: at most 1.5)\n",
+                reporter.Time("BM_OpenSheet/min_time:1.000") / list);
+    for (int page : {1, 2}) {
+      const std::string arg = std::to_string(page) + "/min_time:1.000";
+      const double shown = reporter.Time("BM_ShowPage/" + arg);
+      const double floor = reporter.Time("BM_CopyAndPlainList/" + arg + "/min_warmup_time:1.000");
+      std::printf("Page %d the first time: %.2f times a plain list of the same rows (target: at most 1.5); "
+                  "%.2f times copying the table and the plain list\n",
+                  page, shown / list, floor > 0 ? shown / floor : 0.0);
+    }
+  }
+  if (save > 0)
+    std::printf("Apply: %.2f times SaveAllDatabase alone (target: at most 1.3)\n", reporter.Time("BM_Apply/min_time:2.000") / save);
+  benchmark::Shutdown();
+  g_pProject.reset();
+  return 0;
+}
