@@ -59,6 +59,13 @@ TEST_F(DatabaseSheetTest, AResistanceIsEditedThroughTheNumberFormAndReachesTheRo
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
+TEST_F(DatabaseSheetTest, MovingInAListOfTheRowKeepsThePagesEditsOfOtherRows) {
+  TypeClassName("Q");
+  Click(List(DLG_DBCLASS::kList), 1);
+  Click(List(DLG_DBCLASS::kResist), 1);
+  EXPECT_TRUE(m_pClass->m_vecWork[1].m_strName.ends_with("Q"));
+}
+
 TEST_F(DatabaseSheetTest, AFileThatCannotBeWrittenIsNamedToTheUser) {
   fs::remove(kClassFile);
   fs::create_directory(kClassFile);  // a directory where the file should go
