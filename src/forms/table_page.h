@@ -85,10 +85,15 @@ class cTablePage : public cDatabasePage {
 
   void OnReady() override { m_bShown = true; }
 
-  // A list over a vector of the edit record (cut, paste, delete by its keys) changed
-  // it: the row takes the change before another selection could drop it.
+  // After a command of a list over a vector of the edit record (a move, or a cut,
+  // paste or delete by its keys): the row takes the edit record at once, before another
+  // selection could drop it, and the main list is left as it is. Its refresh would copy
+  // the table over the working copy and lose every edit of the page not yet applied.
   void UpdateAllExcept(unsigned id) override {
-    if (id != 0 && id != m_List.m_nId) m_List.CommitRow();
+    if (id != 0 && id != m_List.m_nId) {
+      m_List.CommitRow();
+      id = m_List.m_nId;
+    }
     cDatabasePage::UpdateAllExcept(id);
   }
 

@@ -81,10 +81,14 @@ class CharaPagesTest : public DatabaseSheetTest {
   VECTOR_CLASS<cEnemy> m_vecEnemy;
 };
 
-TEST_F(CharaPagesTest, TheAllyPageShowsItsRowAndFollowsEveryChangeWithThePreview) {
+TEST_F(CharaPagesTest, EachCharacterPageShowsItsRowAndThePreviewFollowsEveryChange) {
+  auto* tabs = m_pSheet->m_hWnd->findChild<QTabWidget*>();
+  auto* enemy = ShowPage<DLG_DBENEMY>(2);
+  EXPECT_EQ(tabs->tabText(2), QStringLiteral("\u3000敵キャラ\u3000"));
+  EXPECT_EQ(ProbeOpenForm(*enemy), std::vector<std::string>{});
+  EXPECT_EQ(Columns(*enemy), Expected(g_vecEnemy[1])) << "with the enemies' rates";
   auto* page = ShowPage<DLG_DBFRIEND>(1);
-  ASSERT_NE(page, nullptr);
-  EXPECT_EQ(m_pSheet->m_hWnd->findChild<QTabWidget*>()->tabText(1), QStringLiteral("\u3000味方キャラ\u3000"));
+  EXPECT_EQ(tabs->tabText(1), QStringLiteral("\u3000味方キャラ\u3000"));
   EXPECT_EQ(ProbeOpenForm(*page), std::vector<std::string>{});
   EXPECT_EQ(ListOf(*page, DLG_DBFRIEND::kList)->count(), g_vecFriend.Count());
   EXPECT_EQ(Text(page->GetDlgItem(cCharaControls::kClass)), "001 剣士");
@@ -103,21 +107,22 @@ TEST_F(CharaPagesTest, TheAllyPageShowsItsRowAndFollowsEveryChangeWithThePreview
   EXPECT_EQ(Columns(*page), std::vector<std::string>(18, ""));
 }
 
-TEST_F(CharaPagesTest, TheNameFileFollowsRandomNamesAndTheGrowthTimeGivesWayToRandomGrowth) {
-  auto* page = ShowPage<DLG_DBFRIEND>(1);
-  auto* randomName = static_cast<QAbstractButton*>(page->GetDlgItem(cCharaControls::kRandomName));
-  auto* randomGrowth = static_cast<QAbstractButton*>(page->GetDlgItem(cCharaControls::kRandomGrowth));
-  QWidget* nameFile = page->GetDlgItem(cCharaControls::kNameFile);
-  QWidget* growthTime = page->GetDlgItem(cCharaControls::kGrowthTime);
-  EXPECT_EQ(nameFile->isEnabled(), randomName->isChecked());
-  EXPECT_EQ(growthTime->isEnabled(), !randomGrowth->isChecked());
-  for (int i = 0; i < 2; ++i) {
-    randomName->click();
-    randomGrowth->click();
-    EXPECT_EQ(nameFile->isEnabled(), randomName->isChecked());
-    EXPECT_EQ(growthTime->isEnabled(), !randomGrowth->isChecked());
+TEST_F(CharaPagesTest, TheNameFileTheGrowthTimeAndTheFixedEXFollowTheirChecks) {
+  auto* ally = ShowPage<DLG_DBFRIEND>(1);
+  auto* enemy = ShowPage<DLG_DBENEMY>(2);
+  const std::pair<DLG_CLASS*, std::pair<unsigned, unsigned>> rules[] = {
+      {ally, {cCharaControls::kRandomName, cCharaControls::kNameFile}},
+      {ally, {cCharaControls::kRandomGrowth, cCharaControls::kGrowthTime}},
+      {enemy, {DLG_DBENEMY::kFixEX, DLG_DBENEMY::kFixEXValue}},
+  };
+  for (const auto& [page, ids] : rules) {
+    auto* check = static_cast<QAbstractButton*>(page->GetDlgItem(ids.first));
+    const bool onWhenChecked = ids.first != cCharaControls::kRandomGrowth;  // random growth decides the time itself
+    for (int click = 0; click < 2; ++click) {
+      EXPECT_EQ(page->GetDlgItem(ids.second)->isEnabled(), check->isChecked() == onWhenChecked) << ids.second;
+      check->click();
+    }
   }
-  EXPECT_EQ(page->m_vecWork[1].m_bRandomGrowth, g_vecFriend[1].m_bRandomGrowth) << "clicked twice";
 }
 
 TEST_F(CharaPagesTest, ARenamedClassShowsUnderItsOldNameUntilTheSheetIsApplied) {
@@ -166,20 +171,19 @@ TEST_F(CharaPagesTest, ASkillToLearnIsInsertedThroughItsFormAndCancelTakesItOutA
   EXPECT_EQ(rows[1].m_nLevel, 12) << "the level's 1 and the typed 2";
   EXPECT_EQ(learn->item(1)->text().toStdString(), "LV12 -一");
   EXPECT_EQ(Saved(g_vecFriend), table) << "the table waits for the apply";
-}
 
-TEST_F(CharaPagesTest, TheEnemyPageRatesItsPreviewAndFixesItsEXOnlyWhenAsked) {
-  auto* page = ShowPage<DLG_DBENEMY>(2);
-  ASSERT_NE(page, nullptr);
-  EXPECT_EQ(m_pSheet->m_hWnd->findChild<QTabWidget*>()->tabText(2), QStringLiteral("\u3000敵キャラ\u3000"));
-  EXPECT_EQ(ProbeOpenForm(*page), std::vector<std::string>{});
-  EXPECT_EQ(Columns(*page), Expected(g_vecEnemy[1]));
-  auto* fix = static_cast<QAbstractButton*>(page->GetDlgItem(DLG_DBENEMY::kFixEX));
-  QWidget* value = page->GetDlgItem(DLG_DBENEMY::kFixEXValue);
-  EXPECT_EQ(value->isEnabled(), fix->isChecked());
-  fix->click();
-  EXPECT_EQ(value->isEnabled(), fix->isChecked());
-  EXPECT_EQ(page->m_vecWork[1].m_bFixEX, fix->isChecked() ? 1 : 0);
+  // The list's own Delete key reaches the row at once, and the page keeps its other
+  // edits: another row and back show the inserted skill, without the first.
+  VECTOR_CLASS<cLearnSkill> expected = rows;
+  expected.erase(expected.begin());
+  m_pSheet->m_hWnd->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(m_pSheet->m_hWnd));
+  learn->setFocus();
+  Click(learn, 0);
+  page->SendCommand(kListIdSets[kListSecondFree].aKey[kListDelete], kNotifyClicked);
+  Click(ListOf(*page, DLG_DBFRIEND::kList), 1);
+  Click(ListOf(*page, DLG_DBFRIEND::kList), 0);
+  EXPECT_EQ(Saved(page->m_vecWork[1].m_vecLearnSkill), Saved(expected));
 }
 
 TEST_F(CharaPagesTest, ABattleAIInsertedAndCancelledLeavesTheListAsItWas) {

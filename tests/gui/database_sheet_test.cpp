@@ -55,6 +55,7 @@ class DatabaseSheetTest : public TemplateProjectTest {
       if (b->text() == QString::fromUtf8(text)) return b;
     return nullptr;
   }
+  static void Click(QListWidget* list, int row) { list->setCurrentRow(row, QItemSelectionModel::ClearAndSelect); }
   QListWidget* List(unsigned id) const { return static_cast<QListWidget*>(m_pClass->GetDlgItem(id)); }
   void TypeClassName(const char* keys) {
     auto* name = static_cast<QLineEdit*>(m_pClass->GetDlgItem(DLG_DBCLASS::kName));
@@ -268,6 +269,13 @@ TEST_F(DatabaseSheetTest, ABackgroundsKindEnablesItsPartsAndTheOthersKeepTheirVa
   EXPECT_TRUE(backs->GetDlgItem(DLG_DB_BACK::kScrollX)->isEnabled());
   EXPECT_EQ(backs->m_vecWork[1].m_nKind, BACKKIND_COLOR);
   EXPECT_EQ(backs->m_vecWork[1].m_strPath, "image\\back\\sky.png") << "a disabled part keeps its value";
+}
+
+TEST_F(DatabaseSheetTest, MovingInAListOfTheRowKeepsThePagesEditsOfOtherRows) {
+  TypeClassName("Q");
+  Click(List(DLG_DBCLASS::kList), 1);
+  Click(List(DLG_DBCLASS::kResist), 1);
+  EXPECT_TRUE(m_pClass->m_vecWork[1].m_strName.ends_with("Q"));
 }
 
 TEST_F(DatabaseSheetTest, AFileThatCannotBeWrittenIsNamedToTheUser) {
