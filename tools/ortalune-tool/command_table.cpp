@@ -13,6 +13,10 @@ const std::array kCommands = {
                  "read a record file of any version and write it at the current version (to OUT, or in place); "
                  "the tables of the project in the current directory are loaded first",
                  &RunResave},
+    cToolCommand{"dump", "dump [--type TYPE] FILE",
+                 "print a record file of any version as readable text, one field a line with the record "
+                 "class's own name for it; fit for a version control diff (see the README)",
+                 &RunDump},
     cToolCommand{"new", "new DIR",
                  "make a new project in DIR (new or empty) from the bundled template: a small game with its "
                  "database, a sample stage, the world map, pictures, sounds and music",
@@ -53,7 +57,7 @@ const cToolCommand* FindToolCommand(const std::string& name) {
 int RunHelp(std::span<const std::string>) {
   std::printf("ortalune-tool: the headless companion of the Ortalune editor\n\nCommands:\n");
   for (const cToolCommand& command : kCommands) std::printf("  %-36s %s\n", command.usage, command.summary);
-  std::printf("\nRecord types known to resave (--type, or found from the file's name):\n");
+  std::printf("\nRecord types known to resave and dump (--type, or found from the file's name):\n");
   for (const cRecordFileType& type : RecordFileTypes()) {
     std::printf("  %-14s %-18s %s\n", type.typeName, *type.fileName ? type.fileName : type.extension, type.summary);
   }
