@@ -154,6 +154,21 @@ TEST_F(ResaveTest, TheTablesOfTheProjectHereAreLoadedFirstOrNothingIsWritten) {
   m_prompt.shown.clear();
 }
 
+TEST_F(ResaveTest, BeforeTheFirstStartTheTablesComeFromTheDefaultTree) {
+  // A stage whose cells use the last terrain row of the project.
+  g_vecLand.assign(5, cLand());
+  g_Stage.Init();
+  g_Stage.m_vecMap.assign(g_Stage.m_vecMap.size(), 4);
+  WriteProjectFiles(".", "default");
+  ASSERT_EQ(g_Stage.SaveFile(fs::path("Some.stg2")), 1);
+  g_vecLand.clear();
+
+  EXPECT_EQ(Tool({"resave", "Some.stg2", "Out.stg2"}), kToolOk) << g_toolErr;
+  EXPECT_NE(g_toolErr.find("resave: \"data\" does not exist yet; reading \"default\" in its place"), std::string::npos);
+  EXPECT_EQ(FileBytes("Out.stg2"), FileBytes("Some.stg2"));
+  m_prompt.shown.clear();
+}
+
 TEST_F(ResaveTest, CompatibilityRulesSurviveAResaveWithoutAProject) {
   VECTOR_CLASS<cCompatiType> types(2);
   g_Database.m_vecCompatiType = types;

@@ -8,7 +8,9 @@ int RunCheck(std::span<const std::string> args) {
     std::fprintf(stderr, "usage: ortalune-tool check [DIR]\n");
     return kToolUsage;
   }
-  if (!LoadProjectIn(args.empty() ? std::string() : args[0], "check")) return kToolFailed;
+  if (!EnterProjectDir(args.empty() ? std::string() : args[0], "check")) return kToolFailed;
+  cProjectDataHere here("check");
+  if (!LoadProjectHere(here, "check")) return kToolFailed;
   std::printf("check: the project loads\n");
   return kToolOk;
 }
