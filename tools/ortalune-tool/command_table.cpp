@@ -33,8 +33,8 @@ const std::array kCommands = {
     cToolCommand{"render-world", "render-world OUT.png",
                  "draw the whole world map of the project in the current directory into a PNG file", &RunRenderWorld},
     cToolCommand{"render-music", "render-music IN OUT.wav [--seconds N]",
-                 "play a MIDI or ogg file as the editor plays it, into a WAV file instead of the sound card, until "
-                 "it ends or for at most N seconds (600 unless given)",
+                 "play a MIDI or ogg file as the editor plays it, into a WAV file instead of the sound card, to "
+                 "its end, or for its first N seconds",
                  &RunRenderMusic},
     cToolCommand{"csv", "csv export|import DIR LIST FILE.csv",
                  "export: write skill list LIST (numbered from 1, as in the editor) of the project in DIR, or of "
