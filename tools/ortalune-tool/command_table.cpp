@@ -21,8 +21,9 @@ const std::array kCommands = {
                  "make a new project in DIR (new or empty) from the bundled template: a small game with its "
                  "database, a sample stage, the world map, pictures, sounds and music",
                  &RunNew},
-    cToolCommand{"check", "check [DIR]",
-                 "load the project in DIR as the editor does and show each message it would; changes nothing",
+    cToolCommand{"check", "check [--repairs] [DIR]",
+                 "load the project in DIR as the editor does and show each message it would; changes nothing; "
+                 "--repairs lists every reference the load repaired or a save would repair, file by file",
                  &RunCheck},
     cToolCommand{"report", "report [DIR]",
                  "write the report log the editor starts with (Report_Editor.txt) in DIR, and print it", &RunReport},
