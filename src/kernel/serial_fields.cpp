@@ -46,6 +46,13 @@ void WriteString(const std::string& f, cSerialFile* file) {
   }
 }
 
+// Out of line, as the describing of every field: the reading beside it stays as it was.
+[[gnu::noinline]] int DescribeString(std::string& f, cSerialFile* file) {
+  if (!SerialString(SERIAL_READ, f, nullptr, file)) return 0;
+  file->Observer()->Text(f);
+  return 1;
+}
+
 }  // namespace
 
 int SerialString(int op, std::string& f, const std::string* o, cSerialFile* file) {
@@ -56,10 +63,7 @@ int SerialString(int op, std::string& f, const std::string* o, cSerialFile* file
     case SERIAL_READ: return ReadString(f, file);
     case SERIAL_WRITE: WriteString(f, file); return 1;
     case SERIAL_NORMALIZE: f.erase(std::remove(f.begin(), f.end(), '\r'), f.end()); return 1;
-    case SERIAL_DESCRIBE:
-      if (!ReadString(f, file)) return 0;
-      file->Observer()->Text(f);
-      return 1;
+    case SERIAL_DESCRIBE: return DescribeString(f, file);
     case SERIAL_NAME: return 2;
     default: return 1;
   }

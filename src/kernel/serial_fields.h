@@ -76,6 +76,15 @@ template <class T>
   return ScalarRest(op, field, other, file);
 }
 
+// Describing stands out of line, so that the reading and writing beside it are
+// compiled as they were before there was any describing.
+template <class T>
+[[gnu::noinline]] int DescribePlainArray(T* field, std::size_t n, cSerialFile* file) {
+  if (!file->Read(field, n * sizeof(T))) return 0;
+  ReportValues(file, std::span<const T>(field, n));
+  return 1;
+}
+
 template <class T>
 int PlainArray(int op, T* field, const T* other, int count, cSerialFile* file) {
   std::size_t n = count > 0 ? static_cast<std::size_t>(count) : 0;
@@ -87,10 +96,7 @@ int PlainArray(int op, T* field, const T* other, int count, cSerialFile* file) {
       return 1;
     case SERIAL_READ: return file->Read(field, n * sizeof(T));
     case SERIAL_WRITE: file->Write(field, n * sizeof(T)); return 1;
-    case SERIAL_DESCRIBE:
-      if (!file->Read(field, n * sizeof(T))) return 0;
-      ReportValues(file, std::span<const T>(field, n));
-      return 1;
+    case SERIAL_DESCRIBE: return DescribePlainArray(field, n, file);
     case SERIAL_NAME: return 2;
     default: return 1;
   }
@@ -111,6 +117,16 @@ bool FailCountTooLarge(cSerialFile* file);  // always false
   return true;
 }
 inline void WriteCount(cSerialFile* file, std::size_t count) { file->WriteValue(static_cast<std::uint32_t>(count)); }
+
+template <class T>
+int PlainVector(int op, VECTOR_CLASS<T>& field, const VECTOR_CLASS<T>* other, cSerialFile* file);
+
+template <class T>
+[[gnu::noinline]] int DescribePlainVector(VECTOR_CLASS<T>& field, cSerialFile* file) {
+  if (!PlainVector<T>(SERIAL_READ, field, nullptr, file)) return 0;
+  ReportValues(file, std::span<const T>(field.data(), field.size()));
+  return 1;
+}
 
 // A vector of plain elements stored back to back: integers, bytes, pairs.
 template <class T>
@@ -134,10 +150,7 @@ int PlainVector(int op, VECTOR_CLASS<T>& field, const VECTOR_CLASS<T>* other, cS
       WriteCount(file, field.size());
       file->Write(field.data(), field.size() * sizeof(T));
       return 1;
-    case SERIAL_DESCRIBE:
-      if (!PlainVector(SERIAL_READ, field, other, file)) return 0;
-      ReportValues(file, std::span<const T>(field.data(), field.size()));
-      return 1;
+    case SERIAL_DESCRIBE: return DescribePlainVector(field, file);
     case SERIAL_NAME: return 2;
     default: return 1;
   }
@@ -213,15 +226,14 @@ int SaveHeldRecord(T& record, cSerialFile* file) {
 // the same for every record of the class, and asked for once.
 template <class T>
 std::span<const std::string_view> FieldNamesOf(T& record, std::uint32_t version) {
-  static std::map<std::uint32_t, std::vector<std::string_view>> byVersion;
   static const std::vector<std::string_view>* last = nullptr;
   static std::uint32_t lastVersion = 0;
-  if (last == nullptr || version != lastVersion) {
-    auto it = byVersion.find(version);
-    if (it == byVersion.end()) it = byVersion.emplace(version, SerialFieldNames(record, version)).first;
-    last = &it->second;
-    lastVersion = version;
-  }
+  if (last != nullptr && version == lastVersion) return *last;
+  static std::map<std::uint32_t, std::vector<std::string_view>> byVersion;
+  auto it = byVersion.find(version);
+  if (it == byVersion.end()) it = byVersion.emplace(version, SerialFieldNames(record, version)).first;
+  last = &it->second;
+  lastVersion = version;
   return *last;
 }
 
@@ -229,7 +241,7 @@ std::span<const std::string_view> FieldNamesOf(T& record, std::uint32_t version)
 // with neither the migrations nor the clamps of its Load, so that what is reported is
 // what the file holds.
 template <class T>
-int DescribeHeldRecord(T& record, cSerialFile* file) {
+[[gnu::noinline]] int DescribeHeldRecord(T& record, cSerialFile* file) {
   file->Observer()->BeginRecord(FieldNamesOf(record, file->Version()));
   if (!record.T::Serialize(SERIAL_DESCRIBE, nullptr, file, file->Version())) return 0;
   file->Observer()->EndRecord();
