@@ -2,7 +2,8 @@
 // The readable form of a record file: one line a field, "name = value", records and
 // lists indented below the line that names them, texts in UTF-8 between quotes. The
 // same reports always give the same bytes, so that two versions of a file can be
-// compared line by line.
+// compared line by line. A large table gives lines by the ten million: they are put
+// together in place in a buffer of their own.
 
 #include <cstdio>
 #include <string>
@@ -12,7 +13,7 @@
 
 class cFieldTextWriter : public cFieldObserver {
  public:
-  explicit cFieldTextWriter(std::FILE* out) : m_out(out) { m_buffer.reserve(kFlushBytes + 4096); }
+  explicit cFieldTextWriter(std::FILE* out);
   ~cFieldTextWriter() override { Flush(); }
   cFieldTextWriter(const cFieldTextWriter&) = delete;
   cFieldTextWriter& operator=(const cFieldTextWriter&) = delete;
@@ -36,31 +37,37 @@ class cFieldTextWriter : public cFieldObserver {
   void EndRecord() override { m_frames.pop_back(); }
 
  private:
-  static constexpr std::size_t kFlushBytes = 1 << 20;
+  static constexpr std::size_t kBufferBytes = 1 << 20;
+  // Enough beyond the indent for a label and a line of values.
+  static constexpr std::size_t kLineRoom = 1024;
   static constexpr std::size_t kValuesALine = 16;
 
   // The text itself, a record whose fields, or a list whose elements are being written.
+  // A frame's own label is its parent's item before the parent's next.
   struct cFrame {
-    std::string label;  // how its parent calls it: "m_vecSlot" or "[2]"; empty at the top
-    bool bList = false;
-    int nIndent = 0;  // of the lines of its items
+    std::span<const std::string_view> names;  // a record's
     std::size_t nNext = 0;  // the index of the next element, or of the next field's name
-    std::span<const std::string_view> names;
+    int nIndent = 0;        // of the lines of its items
+    bool bList = false;
   };
 
-  // Starts the line of the next item at the current depth: its indent and label.
-  void StartItem();
+  // Starts the line of the next item at the current depth, its indent and label, with
+  // room for the rest of a line; where the line goes on.
+  char* StartItem();
   // Opens the frame of the item whose line StartItem has just begun.
   void Push(bool bList, std::span<const std::string_view> names);
   template <class T>
   void Values(std::span<const T> values);
-  template <class T>
-  void AppendValue(T value);
-  void EndLine();
+  // Makes room for `bytes` more, writing out what the buffer holds when it must.
+  void Room(std::size_t bytes) {
+    if (static_cast<std::size_t>(m_end - m_at) < bytes) MakeRoom(bytes);
+  }
+  void MakeRoom(std::size_t bytes);
 
   std::FILE* m_out;
-  std::string m_buffer;
+  std::vector<char> m_buffer;
+  char* m_at;   // the end of the text in the buffer
+  char* m_end;  // and of the buffer
   std::vector<cFrame> m_frames{cFrame{}};
-  std::size_t m_labelStart = 0;  // where the label of the line being written starts
   bool m_bWriteFailed = false;
 };
