@@ -1,81 +1,32 @@
-// The load of a large project and the save of its database, each against the plain file
-// work underneath it measured in the same run: reading the same files' bytes, and writing
-// the same bytes to the same files through a temporary file and a rename.
-//
-// The project: 999 classes, allies and enemies; 16 skill lists of 999 skills; 999
-// terrain rows; a 64 by 64 default stage with 500 events; 999 palette events. The load
-// is that of the records (what `ortalune-tool check` runs before the image sheets).
+// The load of the large project and the save of its database, each against the plain
+// file work underneath it measured in the same run: reading the same files' bytes, and
+// writing the same bytes to the same files through a temporary file and a rename. The
+// load is that of the records (what `ortalune-tool check` runs before the image sheets).
 
 #include <benchmark/benchmark.h>
 
+#include "large_project.h"
 #include "ratio_reporter.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
-#include <string>
-#include <unistd.h>
 #include <vector>
 
-#include "platform/cp932.h"
 #include "platform/file_io.h"
 #include "platform/heap_pages.h"
-#include "platform/prompt.h"
 #include "project/project_files.h"
-#include "project/project_globals.h"
 #include "project/project_load.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int kRows = 999;
-
-class cSilentPrompt : public cPrompt {
- public:
-  int MessageBox(void*, const std::string&, const std::string&, unsigned) override { return IDOK; }
-  void Beep() override {}
-};
-
-void FillProject() {
-  g_vecSkillList.assign(16, cSkillList());
-  for (cSkillList& list : g_vecSkillList) {
-    list.m_vecCateg.resize(4);
-    list.m_vecSkill.resize(kRows + 1);
-    for (std::size_t i = 1; i < list.m_vecSkill.size(); ++i) list.m_vecSkill[i].m_strName = Cp932FromLiteral("ファイア");
-  }
-  NumberSkillLists(g_vecSkillList);
-  g_vecLand.assign(kRows, cLand());
-  g_vecClass.assign(kRows + 1, cClass());
-  for (cClass& cls : g_vecClass) cls.FixRefs();
-  g_vecFriend.assign(kRows + 1, cFriend());
-  g_vecEnemy.assign(kRows + 1, cEnemy());
-  for (cFriend& ally : g_vecFriend) ally.FixRefs();
-  for (cEnemy& enemy : g_vecEnemy) enemy.FixRefs();
-  g_Stage.Init();
-  g_Stage.Resize(64, 64);
-  for (int i = 0; i < 500; ++i) {
-    cEvent event;
-    event.m_strName = Cp932FromLiteral("宝箱");
-    g_Stage.PutEvent(event, i % 64, i / 64);
-  }
-  g_vecEventPlt.assign(kRows, cEvent());
-}
-
 struct Workspace {
-  fs::path dir;
-  cSilentPrompt prompt;
+  cLargeProjectDir project;
   std::vector<std::pair<fs::path, std::vector<unsigned char>>> allFiles;
   std::vector<std::pair<fs::path, std::vector<unsigned char>>> databaseFiles;
 
   Workspace() {
-    std::string pattern = (fs::temp_directory_path() / "ortalune-project-XXXXXX").string();
-    if (!::mkdtemp(pattern.data())) std::abort();
-    dir = pattern;
-    fs::current_path(dir);
-    SetPrompt(&prompt);
-    FillProject();
-    if (!SaveProjectRecords()) std::abort();
     for (const auto& entry : fs::recursive_directory_iterator("data")) {
       if (!entry.is_regular_file()) continue;
       std::vector<unsigned char> bytes;
@@ -86,12 +37,6 @@ struct Workspace {
         databaseFiles.emplace_back(entry.path(), bytes);
       }
     }
-  }
-  ~Workspace() {
-    SetPrompt(nullptr);
-    std::error_code ec;
-    fs::current_path(fs::temp_directory_path(), ec);
-    fs::remove_all(dir, ec);
   }
 };
 
