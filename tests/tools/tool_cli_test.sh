@@ -26,6 +26,7 @@ if "$tool" new "$dir/p" 2>/dev/null; then echo "new wrote into a directory that 
 [[ $(od -A n -t x1 -N 4 "$dir/stage.png" | tr -d ' ') == 89504e47 ]] || { echo "render-stage wrote no PNG"; exit 1; }
 if (cd "$dir/p" && "$tool" render-stage no-such.stg2 "$dir/x.png" 2>/dev/null); then echo "a missing stage rendered"; exit 1; fi
 
+"$tool" csv export "$dir/p" 1 "$dir/list1.csv" >/dev/null 2>&1 || { echo "csv does not read a new project's default tree"; exit 1; }
 (cd "$dir/p" && "$tool" check --repairs 2>/dev/null) > "$dir/repairs.txt"
 grep -q '^check: no reference was repaired' "$dir/repairs.txt" || { echo "check --repairs finds repairs in a new project"; exit 1; }
 "$tool" dump "$dir/p/default/database/Land.dat" > "$dir/land.txt"
