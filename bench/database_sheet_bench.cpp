@@ -26,10 +26,10 @@
 
 namespace {
 
-std::unique_ptr<cLargeProject> g_pProject;
+std::unique_ptr<cLargeProjectDir> g_pProject;
 
-cLargeProject& Project() {
-  if (!g_pProject) g_pProject = std::make_unique<cLargeProject>();
+cLargeProjectDir& Project() {
+  if (!g_pProject) g_pProject = std::make_unique<cLargeProjectDir>();
   return *g_pProject;
 }
 

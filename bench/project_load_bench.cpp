@@ -1,9 +1,7 @@
-// The load of a large project and the save of its database, each against the plain file
-// work underneath it measured in the same run: reading the same files' bytes, and writing
-// the same bytes to the same files through a temporary file and a rename.
-//
-// The project is the large one of large_project.h. The load is that of the records
-// (what `ortalune-tool check` runs before the image sheets).
+// The load of the large project and the save of its database, each against the plain
+// file work underneath it measured in the same run: reading the same files' bytes, and
+// writing the same bytes to the same files through a temporary file and a rename. The
+// load is that of the records (what `ortalune-tool check` runs before the image sheets).
 
 #include <benchmark/benchmark.h>
 
@@ -17,7 +15,6 @@
 #include "platform/file_io.h"
 #include "platform/heap_pages.h"
 #include "project/project_files.h"
-#include "project/project_globals.h"
 #include "project/project_load.h"
 
 namespace fs = std::filesystem;
@@ -25,7 +22,7 @@ namespace fs = std::filesystem;
 namespace {
 
 struct Workspace {
-  cLargeProject project;
+  cLargeProjectDir project;
   std::vector<std::pair<fs::path, std::vector<unsigned char>>> allFiles;
   std::vector<std::pair<fs::path, std::vector<unsigned char>>> databaseFiles;
 

@@ -1,5 +1,7 @@
 // Any bytes given to the record readers: nothing may crash, read outside the data or
 // allocate beyond it, and whatever loads must save and load to the same bytes again.
+// The describing walk behind the readable form of files reads the same bytes: it may
+// not crash either, and reads through whatever loads.
 
 #include <cstdlib>
 
@@ -16,6 +18,7 @@
 #include "database/move_ai.h"
 #include "database/skill_list.h"
 #include "event/stored_events.h"
+#include "kernel/record_file_describe.h"
 #include "kernel/record_vector_file.h"
 #include "kernel/test_records.h"
 #include "project/system.h"
@@ -23,6 +26,39 @@
 #include "stage/world_map.h"
 
 namespace {
+
+class cNoObserver : public cFieldObserver {
+ public:
+  void Number(std::int64_t) override {}
+  void Real(double) override {}
+  void Text(std::string_view) override {}
+  void Numbers(std::span<const std::int32_t>) override {}
+  void Numbers(std::span<const std::uint8_t>) override {}
+  void Reals(std::span<const double>) override {}
+  void BeginList(std::size_t) override {}
+  void EndList() override {}
+  void BeginRecord(std::span<const std::string_view>) override {}
+  void EndRecord() override {}
+};
+
+template <class T>
+int Described(const std::vector<unsigned char>& input) {
+  static cNoObserver nobody;
+  SerialFilePtr file = OpenSerialReadBuffer(input);
+  return file && DescribeRecord<T>(*file, nobody);
+}
+
+template <class T>
+int DescribedRows(const std::vector<unsigned char>& input) {
+  static cNoObserver nobody;
+  SerialFilePtr file = OpenSerialReadBuffer(input);
+  std::uint32_t rows = 0;
+  if (!file || !ReadRowCount(*file, rows)) return 0;
+  for (std::uint32_t i = 0; i < rows; ++i) {
+    if (!DescribeRecord<T>(*file, nobody)) return 0;
+  }
+  return 1;
+}
 
 std::vector<unsigned char> SavedBytes(cSerial& record) {
   SerialFilePtr out = OpenSerialWriteBuffer();
@@ -32,8 +68,10 @@ std::vector<unsigned char> SavedBytes(cSerial& record) {
 
 template <class T>
 void CheckRecord(const std::vector<unsigned char>& input) {
+  const int described = Described<T>(input);
   T record;
   if (!record.LoadStream(OpenSerialReadBuffer(input))) return;
+  if (!described) std::abort();
   std::vector<unsigned char> once = SavedBytes(record);
   T again;
   if (!again.LoadStream(OpenSerialReadBuffer(once))) std::abort();
@@ -42,8 +80,10 @@ void CheckRecord(const std::vector<unsigned char>& input) {
 
 template <class T>
 void CheckVector(const std::vector<unsigned char>& input) {
+  const int described = DescribedRows<T>(input);
   VECTOR_CLASS<T> records;
   if (!LoadVector(records, OpenSerialReadBuffer(input))) return;
+  if (!described) std::abort();
   SerialFilePtr out = OpenSerialWriteBuffer();
   WriteRecordVector(records, out.get());
   std::vector<unsigned char> once = out->Bytes();

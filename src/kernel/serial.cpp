@@ -1,5 +1,7 @@
 #include "kernel/serial.h"
 
+#include <utility>
+
 std::uint32_t g_nCurVersion = kCurrentFormatVersion;
 std::uint32_t g_nFileVersion = 0;
 int g_bFileTooNew = 0;
@@ -17,6 +19,24 @@ int cSerial::Load(cSerialFile* file) {
 int cSerial::Save(cSerialFile* file) {
   Serialize(SERIAL_WRITE, nullptr, file, g_nCurVersion);
   return 1;
+}
+
+namespace {
+
+std::vector<std::string_view>* g_pTakenFieldNames = nullptr;
+
+}  // namespace
+
+std::vector<std::string_view> SerialFieldNames(cSerial& record, std::uint32_t version) {
+  std::vector<std::string_view> names;
+  std::vector<std::string_view>* outer = std::exchange(g_pTakenFieldNames, &names);
+  record.Serialize(SERIAL_NAME, nullptr, nullptr, version);
+  g_pTakenFieldNames = outer;
+  return names;
+}
+
+void SerialTakeFieldName(std::string_view name) {
+  if (g_pTakenFieldNames != nullptr) g_pTakenFieldNames->push_back(name);
 }
 
 int Compare(const cSerial& a, const cSerial& b) {

@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "kernel/serial_file.h"
 
@@ -17,6 +19,14 @@ enum : int {
   SERIAL_READ = 3,
   SERIAL_WRITE = 4,
   SERIAL_NORMALIZE = 5,
+  // Reads the field as SERIAL_READ does and reports it to the file's observer
+  // (kernel/field_observer.h): the readable form of a file. Versions come from the file
+  // itself; no Load override, migration or clamp runs.
+  SERIAL_DESCRIBE = 6,
+  // Touches nothing: each field function answers 2 at once, and the walk's line hands
+  // over the field's name (see SERIAL_FIELD). Which fields a walk visits depends on the
+  // version alone, so this gives the names of a describing walk's reports, in order.
+  SERIAL_NAME = 7,
 };
 
 constexpr std::uint32_t kCurrentFormatVersion = 290;
@@ -84,9 +94,42 @@ const T* SerialOther(const cSerial* other) {
   return dynamic_cast<const T*>(other);
 }
 #define OTHER(member) (o != nullptr ? &o->member : nullptr)
+
+// The member a line of a walk visits: the first name in it that starts with "m_", or
+// with "g_" for the receiver of a field that the format dropped. Empty for the call of
+// a base class's walk, whose own lines name its fields.
+constexpr std::string_view SerialFieldName(std::string_view line) {
+  auto inName = [](char c) { return c == '_' || (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
+  for (std::size_t i = 0; i + 1 < line.size(); ++i) {
+    if ((line[i] != 'm' && line[i] != 'g') || line[i + 1] != '_' || (i > 0 && inName(line[i - 1]))) continue;
+    std::size_t end = i;
+    while (end < line.size() && inName(line[end])) ++end;
+    return line.substr(i, end - i);
+  }
+  return {};
+}
+constexpr bool SerialLineNamesItsField(std::string_view line) {
+  return !SerialFieldName(line).empty() || line.find("::Serialize(") != std::string_view::npos;
+}
+// The names of the fields that the walk of `record` visits at `version`, in order.
+std::vector<std::string_view> SerialFieldNames(cSerial& record, std::uint32_t version);
+// Takes the name of a field while SerialFieldNames walks.
+void SerialTakeFieldName(std::string_view name);
+
 // Visits one field and ends the walk with 0 when the field says so (a difference
-// while comparing, a file that ends while reading).
-#define SERIAL_FIELD(call)    \
-  do {                        \
-    if (!(call)) return 0;    \
+// while comparing, a file that ends while reading). A field answers 2 only to
+// SERIAL_NAME, and the line then hands over its name, taken from the line's own text so
+// that the readable form of a file names what the walk really visits. Reading and
+// writing pay nothing for it: their test of the answer is the one they always made.
+#define SERIAL_FIELD(call)                                                                       \
+  do {                                                                                           \
+    static_assert(SerialLineNamesItsField(#call), "a walk line visits a member named m_ or g_"); \
+    if (const int visited_ = (call); visited_ != 1) [[unlikely]] {                               \
+      if (visited_ == 0) return 0;                                                               \
+      /* Out of line, so that not even the name's address is made ready on the way. */          \
+      []() __attribute__((cold, noinline)) {                                                     \
+        constexpr std::string_view kName = SerialFieldName(#call);                               \
+        if constexpr (!kName.empty()) SerialTakeFieldName(kName);                                \
+      }();                                                                                       \
+    }                                                                                            \
   } while (0)

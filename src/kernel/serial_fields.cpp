@@ -46,6 +46,13 @@ void WriteString(const std::string& f, cSerialFile* file) {
   }
 }
 
+// Out of line, as the describing of every field: the reading beside it stays as it was.
+[[gnu::noinline]] int DescribeString(std::string& f, cSerialFile* file) {
+  if (!SerialString(SERIAL_READ, f, nullptr, file)) return 0;
+  file->Observer()->Text(f);
+  return 1;
+}
+
 }  // namespace
 
 int SerialString(int op, std::string& f, const std::string* o, cSerialFile* file) {
@@ -56,6 +63,8 @@ int SerialString(int op, std::string& f, const std::string* o, cSerialFile* file
     case SERIAL_READ: return ReadString(f, file);
     case SERIAL_WRITE: WriteString(f, file); return 1;
     case SERIAL_NORMALIZE: f.erase(std::remove(f.begin(), f.end(), '\r'), f.end()); return 1;
+    case SERIAL_DESCRIBE: return DescribeString(f, file);
+    case SERIAL_NAME: return 2;
     default: return 1;
   }
 }
@@ -77,14 +86,17 @@ int NestedVector(int op, VECTOR_CLASS<T>& f, const VECTOR_CLASS<T>* o, cSerialFi
         if (!element(op, f[i], &(*o)[i], file)) return 0;
       }
       return 1;
-    case SERIAL_READ: {
+    case SERIAL_READ:
+    case SERIAL_DESCRIBE: {
       std::uint32_t n = 0;
       if (!serial_detail::ReadCount(file, minBytesEach, n)) return 0;
       f.clear();
       f.resize(n);
+      if (op == SERIAL_DESCRIBE) file->Observer()->BeginList(n);
       for (T& e : f) {
         if (!element(op, e, nullptr, file)) return 0;
       }
+      if (op == SERIAL_DESCRIBE) file->Observer()->EndList();
       return 1;
     }
     case SERIAL_WRITE:
@@ -94,6 +106,7 @@ int NestedVector(int op, VECTOR_CLASS<T>& f, const VECTOR_CLASS<T>* o, cSerialFi
     case SERIAL_NORMALIZE:
       for (T& e : f) element(op, e, nullptr, file);
       return 1;
+    case SERIAL_NAME: return 2;
     default: return 1;
   }
 }
@@ -107,9 +120,14 @@ int SerialVectorVector(int op, VECTOR_CLASS<VECTOR_CLASS<std::int32_t>>& f,
 
 int SerialVectorArray(int op, VECTOR_CLASS<std::int32_t>* f, const VECTOR_CLASS<std::int32_t>* o, int count,
                       cSerialFile* file) {
+  if (op >= SERIAL_DESCRIBE) {
+    if (op == SERIAL_NAME) return 2;
+    file->Observer()->BeginList(static_cast<std::size_t>(count));
+  }
   for (int i = 0; i < count; ++i) {
     if (!SerialIntVector(op, f[i], o != nullptr ? &o[i] : nullptr, file)) return 0;
   }
+  if (op == SERIAL_DESCRIBE) file->Observer()->EndList();
   return 1;
 }
 

@@ -1,16 +1,21 @@
 #pragma once
-// The field functions of the record walk. Each handles one kind of field for all six
+// The field functions of the record walk. Each handles one kind of field for all eight
 // operations and returns 1, or 0 on a difference while comparing or on a file that
-// cannot deliver the field while reading. Integers and doubles are stored
-// little-endian exactly as they lie in memory; counts are u32 in front of elements.
+// cannot deliver the field while reading or describing, or 2 at once when the walk asks
+// for the names of its fields. Integers and doubles are stored little-endian exactly as
+// they lie in memory; counts are u32 in front of elements. Describing reads a field
+// exactly as reading does, and then reports what it read.
 
 #include <bit>
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <map>
+#include <span>
 #include <string>
 #include <type_traits>
 
+#include "kernel/field_observer.h"
 #include "kernel/serial.h"
 #include "kernel/vector_class.h"
 
@@ -19,14 +24,41 @@ static_assert(sizeof(int) == 4 && sizeof(double) == 8, "record fields assume 32-
 
 namespace serial_detail {
 
+// What a describing walk reports of plain values.
+inline void ReportValues(cSerialFile* file, std::span<const std::int32_t> values) { file->Observer()->Numbers(values); }
+inline void ReportValues(cSerialFile* file, std::span<const std::uint8_t> values) { file->Observer()->Numbers(values); }
+inline void ReportValues(cSerialFile* file, std::span<const double> values) { file->Observer()->Reals(values); }
+// Pairs of two 32-bit values, such as positions: a list of two-number elements.
+template <class Pair>
+void ReportValues(cSerialFile* file, std::span<const Pair> pairs) {
+  static_assert(sizeof(Pair) == 2 * sizeof(std::int32_t) && std::is_trivially_copyable_v<Pair>);
+  cFieldObserver& observer = *file->Observer();
+  observer.BeginList(pairs.size());
+  for (const Pair& pair : pairs) {
+    std::int32_t halves[2];
+    std::memcpy(halves, &pair, sizeof halves);
+    observer.Numbers(std::span<const std::int32_t>(halves));
+  }
+  observer.EndList();
+}
+
 // The operations of a scalar field that run once per record and action: resetting,
-// copying, comparing, normalising.
+// copying, comparing, normalising; and describing, once per field of a readable file.
 template <class T>
-[[gnu::noinline]] int ScalarRest(int op, T& field, const T* other) {
+[[gnu::noinline]] int ScalarRest(int op, T& field, const T* other, cSerialFile* file) {
   switch (op) {
     case SERIAL_INIT: field = T{}; return 1;
     case SERIAL_COPY: if (other != nullptr) field = *other; return 1;
     case SERIAL_COMPARE: return other == nullptr || field == *other;
+    case SERIAL_NAME: return 2;
+    case SERIAL_DESCRIBE:
+      if (!file->ReadValue(field)) return 0;
+      if constexpr (std::is_floating_point_v<T>) {
+        file->Observer()->Real(field);
+      } else {
+        file->Observer()->Number(field);
+      }
+      return 1;
     default: return 1;
   }
 }
@@ -41,7 +73,16 @@ template <class T>
     file->WriteValue(field);
     return 1;
   }
-  return ScalarRest(op, field, other);
+  return ScalarRest(op, field, other, file);
+}
+
+// Describing stands out of line, so that the reading and writing beside it are
+// compiled as they were before there was any describing.
+template <class T>
+[[gnu::noinline]] int DescribePlainArray(T* field, std::size_t n, cSerialFile* file) {
+  if (!file->Read(field, n * sizeof(T))) return 0;
+  ReportValues(file, std::span<const T>(field, n));
+  return 1;
 }
 
 template <class T>
@@ -55,6 +96,8 @@ int PlainArray(int op, T* field, const T* other, int count, cSerialFile* file) {
       return 1;
     case SERIAL_READ: return file->Read(field, n * sizeof(T));
     case SERIAL_WRITE: file->Write(field, n * sizeof(T)); return 1;
+    case SERIAL_DESCRIBE: return DescribePlainArray(field, n, file);
+    case SERIAL_NAME: return 2;
     default: return 1;
   }
 }
@@ -74,6 +117,16 @@ bool FailCountTooLarge(cSerialFile* file);  // always false
   return true;
 }
 inline void WriteCount(cSerialFile* file, std::size_t count) { file->WriteValue(static_cast<std::uint32_t>(count)); }
+
+template <class T>
+int PlainVector(int op, VECTOR_CLASS<T>& field, const VECTOR_CLASS<T>* other, cSerialFile* file);
+
+template <class T>
+[[gnu::noinline]] int DescribePlainVector(VECTOR_CLASS<T>& field, cSerialFile* file) {
+  if (!PlainVector<T>(SERIAL_READ, field, nullptr, file)) return 0;
+  ReportValues(file, std::span<const T>(field.data(), field.size()));
+  return 1;
+}
 
 // A vector of plain elements stored back to back: integers, bytes, pairs.
 template <class T>
@@ -97,6 +150,8 @@ int PlainVector(int op, VECTOR_CLASS<T>& field, const VECTOR_CLASS<T>* other, cS
       WriteCount(file, field.size());
       file->Write(field.data(), field.size() * sizeof(T));
       return 1;
+    case SERIAL_DESCRIBE: return DescribePlainVector(field, file);
+    case SERIAL_NAME: return 2;
     default: return 1;
   }
 }
@@ -167,6 +222,32 @@ int SaveHeldRecord(T& record, cSerialFile* file) {
   }
 }
 
+// The names of the fields of class T at a version, in the order of its walk. They are
+// the same for every record of the class, and asked for once.
+template <class T>
+std::span<const std::string_view> FieldNamesOf(T& record, std::uint32_t version) {
+  static const std::vector<std::string_view>* last = nullptr;
+  static std::uint32_t lastVersion = 0;
+  if (last != nullptr && version == lastVersion) return *last;
+  static std::map<std::uint32_t, std::vector<std::string_view>> byVersion;
+  auto it = byVersion.find(version);
+  if (it == byVersion.end()) it = byVersion.emplace(version, SerialFieldNames(record, version)).first;
+  last = &it->second;
+  lastVersion = version;
+  return *last;
+}
+
+// Describing a record held by value: its own walk alone, at the version of the file,
+// with neither the migrations nor the clamps of its Load, so that what is reported is
+// what the file holds.
+template <class T>
+[[gnu::noinline]] int DescribeHeldRecord(T& record, cSerialFile* file) {
+  file->Observer()->BeginRecord(FieldNamesOf(record, file->Version()));
+  if (!record.T::Serialize(SERIAL_DESCRIBE, nullptr, file, file->Version())) return 0;
+  file->Observer()->EndRecord();
+  return 1;
+}
+
 // A nested record: its own Load and Save stream, so its migrations and clamps run.
 template <class T>
 int SerialRecord(int op, T& f, const std::type_identity_t<T>* o, cSerialFile* file) {
@@ -177,15 +258,22 @@ int SerialRecord(int op, T& f, const std::type_identity_t<T>* o, cSerialFile* fi
     case SERIAL_READ: return LoadHeldRecord(f, file);
     case SERIAL_WRITE: SaveHeldRecord(f, file); return 1;
     case SERIAL_NORMALIZE: f.Normalize(); return 1;
+    case SERIAL_DESCRIBE: return DescribeHeldRecord(f, file);
+    case SERIAL_NAME: return 2;
     default: return 1;
   }
 }
 
 template <class T>
 int SerialRecordArray(int op, T* f, const std::type_identity_t<T>* o, int count, cSerialFile* file) {
+  if (op >= SERIAL_DESCRIBE) {
+    if (op == SERIAL_NAME) return 2;
+    file->Observer()->BeginList(static_cast<std::size_t>(count));
+  }
   for (int i = 0; i < count; ++i) {
     if (!SerialRecord<T>(op, f[i], o != nullptr ? &o[i] : nullptr, file)) return 0;
   }
+  if (op == SERIAL_DESCRIBE) file->Observer()->EndList();
   return 1;
 }
 
@@ -226,6 +314,23 @@ int ReadRecordVector(VECTOR_CLASS<T>& f, cSerialFile* file) {
   return n == 0 ? 1 : ReadRecordElements(f, n, file);
 }
 
+// Describing a vector of records holds one element at a time, whatever the count: a
+// list that is only reported need not stand in memory.
+template <class T>
+[[gnu::noinline]] int DescribeRecordVector(cSerialFile* file) {
+  std::uint32_t n = 0;
+  if (!serial_detail::ReadCount(file, 1, n)) return 0;
+  file->Observer()->BeginList(n);
+  if (n > 0) {
+    T element = ReadingPrototype<T>();
+    for (std::uint32_t i = 0; i < n; ++i) {
+      if (!DescribeHeldRecord(element, file)) return 0;
+    }
+  }
+  file->Observer()->EndList();
+  return 1;
+}
+
 template <class T>
 int SerialRecordVector(int op, VECTOR_CLASS<T>& f, const VECTOR_CLASS<std::type_identity_t<T>>* o, cSerialFile* file) {
   switch (op) {
@@ -250,15 +355,31 @@ int SerialRecordVector(int op, VECTOR_CLASS<T>& f, const VECTOR_CLASS<std::type_
     case SERIAL_NORMALIZE:
       for (T& element : f) element.Normalize();
       return 1;
+    case SERIAL_DESCRIBE: return DescribeRecordVector<T>(file);
+    case SERIAL_NAME: return 2;
     default: return 1;
   }
 }
 
 // A vector of record vectors: the outer count, then each inner vector as above.
 template <class T>
+[[gnu::noinline]] int DescribeRecordVectorVector(cSerialFile* file) {
+  std::uint32_t n = 0;
+  if (!serial_detail::ReadCount(file, sizeof(std::uint32_t), n)) return 0;
+  file->Observer()->BeginList(n);
+  for (std::uint32_t i = 0; i < n; ++i) {
+    if (!DescribeRecordVector<T>(file)) return 0;
+  }
+  file->Observer()->EndList();
+  return 1;
+}
+
+template <class T>
 int SerialRecordVectorVector(int op, VECTOR_CLASS<VECTOR_CLASS<T>>& f,
                              const VECTOR_CLASS<VECTOR_CLASS<std::type_identity_t<T>>>* o, cSerialFile* file) {
   switch (op) {
+    case SERIAL_DESCRIBE: return DescribeRecordVectorVector<T>(file);
+    case SERIAL_NAME: return 2;
     case SERIAL_INIT: f.clear(); return 1;
     case SERIAL_READ: {
       std::uint32_t n = 0;

@@ -148,6 +148,7 @@ SerialFilePtr StartReading(SerialFilePtr file) {
   std::uint32_t version = 0;
   if (!file->PeekHead(0, &version, sizeof version)) return nullptr;  // no header: as good as no file
   g_nFileVersion = version;
+  file->SetVersion(version);
   if (version > g_nCurVersion) {
     g_bFileTooNew = 1;
     return nullptr;

@@ -16,6 +16,8 @@
 
 #include "platform/file_io.h"
 
+class cFieldObserver;
+
 class cSerialFile {
  public:
   enum class Mode { Read, Write };
@@ -27,6 +29,12 @@ class cSerialFile {
   static std::unique_ptr<cSerialFile> ForWriting();
 
   Mode GetMode() const { return m_mode; }
+  // The version of the header, once it has been read.
+  std::uint32_t Version() const { return m_version; }
+  void SetVersion(std::uint32_t version) { m_version = version; }
+  // Who a describing walk reports to; null for every other stream.
+  cFieldObserver* Observer() const { return m_pObserver; }
+  void SetObserver(cFieldObserver* observer) { m_pObserver = observer; }
 
   // Reading. False when fewer than `size` bytes remain; the file is then failed.
   bool Read(void* data, std::size_t size) {
@@ -112,6 +120,8 @@ class cSerialFile {
   bool m_bFailed = false;
   std::string m_failure;
   cAtomicFile m_target;
+  std::uint32_t m_version = 0;
+  cFieldObserver* m_pObserver = nullptr;
 };
 
 using SerialFilePtr = std::unique_ptr<cSerialFile>;

@@ -62,6 +62,41 @@ cIconv& ToCp932() {
   return cd;
 }
 
+bool IsTrailByte(unsigned char c) { return c >= 0x40 && c <= 0xFC && c != 0x7F; }
+
+bool NeedsEscape(unsigned char c) { return c < 0x20 || c == '"' || c == '\\' || c == 0x7F; }
+
+void AppendEscaped(std::string& out, unsigned char c) {
+  switch (c) {
+    case '"': out += "\\\""; return;
+    case '\\': out += "\\\\"; return;
+    case '\n': out += "\\n"; return;
+    case '\r': out += "\\r"; return;
+    case '\t': out += "\\t"; return;
+    default: break;
+  }
+  static constexpr char kHex[] = "0123456789ABCDEF";
+  out += "\\x";
+  out += kHex[c >> 4];
+  out += kHex[c & 15];
+}
+
+// The end of the run from `at` in which no byte needs an escape. A double-byte pair is
+// kept whole: its trail byte may be 0x5C, which is no backslash there.
+std::size_t EndOfPlainRun(std::string_view text, std::size_t at) {
+  while (at < text.size()) {
+    const auto c = static_cast<unsigned char>(text[at]);
+    if (IsLeadByte(c) && at + 1 < text.size() && IsTrailByte(static_cast<unsigned char>(text[at + 1]))) {
+      at += 2;
+    } else if (c < 0x80 && NeedsEscape(c)) {
+      break;
+    } else {
+      ++at;
+    }
+  }
+  return at;
+}
+
 std::size_t Utf8SequenceLength(unsigned char c) {
   if (c < 0x80) return 1;
   if ((c & 0xE0) == 0xC0) return 2;
@@ -124,6 +159,28 @@ std::string Utf8ToCp932Lossy(std::string_view utf8) {
     return true;
   });
   return result;
+}
+
+std::string Cp932QuotedUtf8(std::string_view cp932) {
+  std::string out = "\"";
+  std::string decoded;
+  auto escapeUndecodable = [](std::string_view rest, std::string& to, std::size_t& consumed) {
+    const auto lead = static_cast<unsigned char>(rest[0]);
+    consumed = IsLeadByte(lead) && rest.size() > 1 && IsTrailByte(static_cast<unsigned char>(rest[1])) ? 2 : 1;
+    for (std::size_t i = 0; i < consumed; ++i) AppendEscaped(to, static_cast<unsigned char>(rest[i]));
+    return true;
+  };
+  for (std::size_t at = 0; at < cp932.size();) {
+    const std::size_t end = EndOfPlainRun(cp932, at);
+    if (end > at) {
+      FromCp932().Convert(cp932.substr(at, end - at), decoded, escapeUndecodable);
+      out += decoded;
+      at = end;
+    }
+    if (at < cp932.size()) AppendEscaped(out, static_cast<unsigned char>(cp932[at++]));
+  }
+  out += '"';
+  return out;
 }
 
 std::string Cp932FromLiteral(const char* utf8) { return Utf8ToCp932Lossy(utf8); }

@@ -26,6 +26,11 @@ bool Utf8ToCp932(std::string_view utf8, std::string& out);
 std::string Cp932ToUtf8Lossy(std::string_view cp932);
 std::string Utf8ToCp932Lossy(std::string_view utf8);
 
+// The text in UTF-8 between double quotes, every byte accounted for: the quote, the
+// backslash and control characters are escaped (\" \\ \n \r \t, others \xNN), and so
+// is each byte that does not decode, as \xNN; nothing is dropped or replaced.
+std::string Cp932QuotedUtf8(std::string_view cp932);
+
 // A UTF-8 source literal as CP932 data. Use through CP932_TEXT so that each literal is
 // converted once.
 std::string Cp932FromLiteral(const char* utf8);

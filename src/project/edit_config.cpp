@@ -56,7 +56,7 @@ void cEditConfig::Init() {
   m_bAutoStageNo = 1;
   m_bAutoFindOld = 1;
   m_strDefaultStage = "data\\stg\\Default.stg2";
-  for (auto place : kWindowPlaces) this->*place = cWndPosInfo();
+  m_PosMain = m_PosChip = m_PosEnemy = m_PosEvent = m_PosWorldMap = m_PosWorldChip = m_PosWorldEvent = cWndPosInfo();
 }
 
 int cEditConfig::Serialize(int op, const cSerial* other, cSerialFile* file, std::uint32_t version) {
@@ -80,24 +80,23 @@ int cEditConfig::Serialize(int op, const cSerial* other, cSerialFile* file, std:
   SERIAL_FIELD(SerialString(op, m_strDefaultStage, OTHER(m_strDefaultStage), file));
   SERIAL_FIELD(SerialString(op, m_strSpare, OTHER(m_strSpare), file));
   if (version >= 26) SERIAL_FIELD(SerialInt(op, m_nSpare, OTHER(m_nSpare), file));
+  // The places of the tool windows, each a record of its own at the file's version.
+  SERIAL_FIELD(SerialRecord(op, m_PosMain, OTHER(m_PosMain), file));
+  SERIAL_FIELD(SerialRecord(op, m_PosChip, OTHER(m_PosChip), file));
+  SERIAL_FIELD(SerialRecord(op, m_PosEnemy, OTHER(m_PosEnemy), file));
+  SERIAL_FIELD(SerialRecord(op, m_PosEvent, OTHER(m_PosEvent), file));
+  SERIAL_FIELD(SerialRecord(op, m_PosWorldMap, OTHER(m_PosWorldMap), file));
+  SERIAL_FIELD(SerialRecord(op, m_PosWorldChip, OTHER(m_PosWorldChip), file));
+  SERIAL_FIELD(SerialRecord(op, m_PosWorldEvent, OTHER(m_PosWorldEvent), file));
   return 1;
 }
 
 int cEditConfig::Load(cSerialFile* file) {
   if (!cSerial::Load(file)) return 0;
-  for (auto place : kWindowPlaces) {
-    if (!(this->*place).Load(file)) return 0;
-  }
   if (g_nFileVersion < 106) {
     m_strStagePath = WithStageExtension(m_strStagePath);
     m_strDefaultStage = WithStageExtension(m_strDefaultStage);
   }
-  return 1;
-}
-
-int cEditConfig::Save(cSerialFile* file) {
-  cSerial::Save(file);
-  for (auto place : kWindowPlaces) (this->*place).Save(file);
   return 1;
 }
 

@@ -45,7 +45,6 @@ class cEditConfig : public cSerial {
 
   int Serialize(int op, const cSerial* other, cSerialFile* file, std::uint32_t version) override;
   int Load(cSerialFile* file) override;
-  int Save(cSerialFile* file) override;
 
   std::string m_strStagePath;
   int m_nPalette;
@@ -61,7 +60,7 @@ class cEditConfig : public cSerial {
   std::string m_strSpare;
   int m_nSpare;
 
-  // Streamed behind the own fields, outside the walk.
+  // Streamed behind the other fields; a load holds each on the screen.
   cWndPosInfo m_PosMain;
   cWndPosInfo m_PosChip;
   cWndPosInfo m_PosEnemy;
@@ -69,12 +68,6 @@ class cEditConfig : public cSerial {
   cWndPosInfo m_PosWorldMap;
   cWndPosInfo m_PosWorldChip;
   cWndPosInfo m_PosWorldEvent;
-
-  // The seven places in stream order.
-  static constexpr cWndPosInfo cEditConfig::*kWindowPlaces[7] = {
-      &cEditConfig::m_PosMain,     &cEditConfig::m_PosChip,      &cEditConfig::m_PosEnemy,
-      &cEditConfig::m_PosEvent,    &cEditConfig::m_PosWorldMap,  &cEditConfig::m_PosWorldChip,
-      &cEditConfig::m_PosWorldEvent};
 };
 
 constexpr const char* kEditConfigPath = "e_data\\EditConfig.dat";

@@ -20,8 +20,13 @@ int SaveList(const char* path) {
 }
 
 template <auto Member>
+void WriteList(cSerialFile* file) {
+  WriteRecordVector(g_Database.*Member, file);
+}
+
+template <auto Member>
 constexpr cProjectFile DatabaseList(const char* path) {
-  return {path, &LoadList<Member>, &SaveList<Member>};
+  return {path, &LoadList<Member>, &SaveList<Member>, &WriteList<Member>};
 }
 
 template <auto& Record>
@@ -34,6 +39,16 @@ int SaveRecordFile(const char* path) {
   return Record.SaveFile(path);
 }
 
+template <auto& Record>
+void WriteRecordFile(cSerialFile* file) {
+  Record.Save(file);
+}
+
+template <auto& Record>
+constexpr cProjectFile RecordFile(const char* path) {
+  return {path, &LoadRecordFile<Record>, &SaveRecordFile<Record>, &WriteRecordFile<Record>};
+}
+
 template <auto& Vector>
 int LoadVectorFile(const char* path) {
   return LoadVector(Vector, path);
@@ -42,6 +57,16 @@ int LoadVectorFile(const char* path) {
 template <auto& Vector>
 int SaveVectorFile(const char* path) {
   return SaveVector(Vector, path);
+}
+
+template <auto& Vector>
+void WriteVectorFile(cSerialFile* file) {
+  WriteRecordVector(Vector, file);
+}
+
+template <auto& Vector>
+constexpr cProjectFile VectorFile(const char* path) {
+  return {path, &LoadVectorFile<Vector>, &SaveVectorFile<Vector>, &WriteVectorFile<Vector>};
 }
 
 constexpr int kFirstVersionWithHelp = 212;
@@ -67,27 +92,34 @@ const cProjectFile kBackFile = DatabaseList<&cDatabase::m_vecBack>("data\\databa
 const cProjectFile kSoundFile = DatabaseList<&cDatabase::m_vecSound>("data\\database\\Sound.dat");
 const cProjectFile kBgmFile = DatabaseList<&cDatabase::m_vecBgm>("data\\database\\Bgm.dat");
 const cProjectFile kHelpFile = DatabaseList<&cDatabase::m_vecHelp>("data\\database\\Help.dat");
-const cProjectFile kSystemFile = {"data\\database\\System.dat", &LoadRecordFile<g_System>, &SaveRecordFile<g_System>};
-const cProjectFile kLandFile = {"data\\database\\Land.dat", &LoadVectorFile<g_vecLand>, &SaveVectorFile<g_vecLand>};
-const cProjectFile kSkillFile = {"data\\database\\Skill.dat", &LoadVectorFile<g_vecSkillList>,
-                                 &SaveVectorFile<g_vecSkillList>};
-const cProjectFile kClassFile = {kClassPath, &LoadVectorFile<g_vecClass>, &SaveVectorFile<g_vecClass>};
-const cProjectFile kFriendFile = {kFriendPath, &LoadVectorFile<g_vecFriend>, &SaveVectorFile<g_vecFriend>};
-const cProjectFile kEnemyFile = {kEnemyPath, &LoadVectorFile<g_vecEnemy>, &SaveVectorFile<g_vecEnemy>};
-const cProjectFile kMoveAITemplateFile = {"data\\MoveAITemplate.dat", &LoadVectorFile<g_vecMoveAITemplate>,
-                                          &SaveVectorFile<g_vecMoveAITemplate>};
+const cProjectFile kSystemFile = RecordFile<g_System>("data\\database\\System.dat");
+const cProjectFile kLandFile = VectorFile<g_vecLand>("data\\database\\Land.dat");
+const cProjectFile kSkillFile = VectorFile<g_vecSkillList>("data\\database\\Skill.dat");
+const cProjectFile kClassFile = VectorFile<g_vecClass>(kClassPath);
+const cProjectFile kFriendFile = VectorFile<g_vecFriend>(kFriendPath);
+const cProjectFile kEnemyFile = VectorFile<g_vecEnemy>(kEnemyPath);
+const cProjectFile kMoveAITemplateFile = VectorFile<g_vecMoveAITemplate>("data\\MoveAITemplate.dat");
 const cProjectFile kGValInfoFile = {kGValInfoPath,
                                     [](const char* path) {
                                       if (!LoadVector(g_vecGValInfo, path)) return 0;
                                       FitCommonVarNames(g_vecGValInfo);
                                       return 1;
                                     },
-                                    &SaveVectorFile<g_vecGValInfo>};
-const cProjectFile kEventPltFile = {kEventPltPath, &LoadVectorFile<g_vecEventPlt>, &SaveVectorFile<g_vecEventPlt>};
-const cProjectFile kEventActPltFile = {kEventActPltPath, &LoadVectorFile<g_vecEventActPlt>,
-                                       &SaveVectorFile<g_vecEventActPlt>};
-const cProjectFile kStartEventFile = {kStartEventPath, &LoadRecordFile<g_StartEvent>, &SaveRecordFile<g_StartEvent>};
-const cProjectFile kWorldMapFile = {kWorldMapPath, &LoadRecordFile<g_WorldMap>, &SaveRecordFile<g_WorldMap>};
+                                    &SaveVectorFile<g_vecGValInfo>, &WriteVectorFile<g_vecGValInfo>};
+const cProjectFile kEventPltFile = VectorFile<g_vecEventPlt>(kEventPltPath);
+const cProjectFile kEventActPltFile = VectorFile<g_vecEventActPlt>(kEventActPltPath);
+const cProjectFile kStartEventFile = RecordFile<g_StartEvent>(kStartEventPath);
+const cProjectFile kWorldMapFile = RecordFile<g_WorldMap>(kWorldMapPath);
+
+namespace {
+
+const cProjectFile* const kDatabaseLists[] = {&kCompatiTypeFile, &kPartyValFile, &kCharaAnimFile,
+                                              &kEffectAnimFile,  &kPictureFile,  &kBackFile,
+                                              &kSoundFile,       &kBgmFile,      &kHelpFile};
+
+}  // namespace
+
+std::span<const cProjectFile* const> DatabaseListFiles() { return kDatabaseLists; }
 
 void RepairSkills() {
   for (cSkillList& list : g_vecSkillList) {
@@ -96,8 +128,7 @@ void RepairSkills() {
 }
 
 int LoadDatabase() {
-  for (const cProjectFile* file : {&kCompatiTypeFile, &kPartyValFile, &kCharaAnimFile, &kEffectAnimFile, &kPictureFile,
-                                   &kBackFile, &kSoundFile, &kBgmFile, &kHelpFile}) {
+  for (const cProjectFile* file : kDatabaseLists) {
     if (file == &kHelpFile && g_nFileVersion < kFirstVersionWithHelp) continue;
     if (!file->load(file->path)) {
       ReportLoadFailure(file->path);

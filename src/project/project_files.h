@@ -2,13 +2,19 @@
 // The record files of a project, each bound to the global object it fills, and the
 // saves of the database. The load order lives in project_load.cpp.
 
+#include <span>
 #include <string>
 #include <vector>
+
+class cSerialFile;
 
 struct cProjectFile {
   const char* path;                 // stored path
   int (*load)(const char* path);    // 1 when read whole
   int (*save)(const char* path);    // 1 when written whole
+  // What `save` would write after the version, into an open stream: the object's stream
+  // as a save would leave it, without touching the file.
+  void (*write)(cSerialFile* file);
 };
 
 extern const cProjectFile kCompatiTypeFile;
@@ -32,6 +38,9 @@ extern const cProjectFile kEventPltFile;
 extern const cProjectFile kEventActPltFile;
 extern const cProjectFile kStartEventFile;
 extern const cProjectFile kWorldMapFile;
+
+// The nine lists of g_Database in their load order.
+std::span<const cProjectFile* const> DatabaseListFiles();
 
 // The nine lists of g_Database in their load order, failing on the first that does not
 // load (after its message). Help is read only from projects of version 212 on, judged

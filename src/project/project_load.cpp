@@ -23,7 +23,7 @@ int PassKeyColour(const char*) {
 void NumberSkillListsAfterLoad(int) { NumberSkillLists(g_vecSkillList); }
 
 constexpr cLoadStep FileStep(const cProjectFile& file, eFailRule rule, void (*after)(int) = nullptr) {
-  return {file.path, file.load, rule, after};
+  return {file.path, file.load, rule, after, false, &file};
 }
 
 // A project older than the test play file kept two of its settings in the editor
@@ -55,7 +55,8 @@ int EndWithNoStageOpen(const char*) {
   return 1;
 }
 
-const cProjectFile kTestPlayFile = {kTestPlayPath, [](const char* p) { return g_TestPlay.LoadFile(p); }, nullptr};
+const cProjectFile kTestPlayFile = {kTestPlayPath, [](const char* p) { return g_TestPlay.LoadFile(p); }, nullptr,
+                                   [](cSerialFile* file) { g_TestPlay.Save(file); }};
 
 const std::array kLoadSteps = {
     FileStep(kGValInfoFile, kFailStops),
@@ -94,6 +95,15 @@ int RunLoadSteps(bool bWithImages) {
 }  // namespace
 
 std::span<const cLoadStep> ProjectLoadSteps() { return kLoadSteps; }
+
+std::vector<const cProjectFile*> ProjectRecordFiles() {
+  std::vector<const cProjectFile*> files;
+  for (const cLoadStep& step : kLoadSteps) {
+    if (step.load == &LoadDatabaseStep) files.insert(files.end(), DatabaseListFiles().begin(), DatabaseListFiles().end());
+    if (step.file != nullptr) files.push_back(step.file);
+  }
+  return files;
+}
 
 int LoadProject() { return RunLoadSteps(true); }
 int LoadProjectRecords() { return RunLoadSteps(false); }

@@ -4,6 +4,9 @@
 // before them, and some steps test g_nFileVersion right after the file they concern.
 
 #include <span>
+#include <vector>
+
+struct cProjectFile;
 
 enum eFailRule {
   kFailStops,    // the load ends with the failure message of the file
@@ -16,9 +19,14 @@ struct cLoadStep {
   eFailRule failRule;
   void (*after)(int loaded);     // numbering, fallbacks and migrations that follow the load; may be null
   bool bImages = false;          // reads image sheets rather than records
+  const cProjectFile* file = nullptr;  // the one record file the step reads, if so
 };
 
 std::span<const cLoadStep> ProjectLoadSteps();
+
+// The record files the load reads by their fixed paths, in its order; the stages are
+// not among them.
+std::vector<const cProjectFile*> ProjectRecordFiles();
 
 // 1 when the whole project loaded; 0 after the message of the step that failed.
 int LoadProject();

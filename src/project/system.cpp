@@ -115,21 +115,23 @@ int cSystem::Serialize(int op, const cSerial* other, cSerialFile* file, std::uin
   if (version >= 8) SERIAL_FIELD(SerialRecordVector(op, m_vecParam, OTHER(m_vecParam), file));
   if (version >= 11) SERIAL_FIELD(SerialInt(op, m_bGameModeImage, OTHER(m_bGameModeImage), file));
 
-  // The menus, each with the version that brought it.
-  static constexpr struct {
-    VECTOR_CLASS<cCmd> cSystem::*menu;
-    std::uint32_t since;
-  } kMenus[] = {
-      {&cSystem::m_vecTitleMenu, 11},     {&cSystem::m_vecOptionMenu, 11},    {&cSystem::m_vecPartyMenu, 0},
-      {&cSystem::m_vecScoutMenu, 12},     {&cSystem::m_vecReviveMenu, 12},    {&cSystem::m_vecReleaseMenu, 12},
-      {&cSystem::m_vecConfigMenu, 63},    {&cSystem::m_vecShopMenu, 11},      {&cSystem::m_vecTrainingMenu, 11},
-      {&cSystem::m_vecTrainSideMenu, 11}, {&cSystem::m_vecTrainEntryMenu, 11}, {&cSystem::m_vecPrepareMenu, 0},
-      {&cSystem::m_vecActionMenu, 0},     {&cSystem::m_vecStageMenu, 0},      {&cSystem::m_vecTestMenu, 43},
-      {&cSystem::m_vecBattleMenu, 0},
-  };
-  for (const auto& menu : kMenus) {
-    if (version >= menu.since) SERIAL_FIELD(SerialRecordVector(op, this->*menu.menu, o ? &(o->*menu.menu) : nullptr, file));
-  }
+  // The menus, each from the version that brought it.
+  if (version >= 11) SERIAL_FIELD(SerialRecordVector(op, m_vecTitleMenu, OTHER(m_vecTitleMenu), file));
+  if (version >= 11) SERIAL_FIELD(SerialRecordVector(op, m_vecOptionMenu, OTHER(m_vecOptionMenu), file));
+  SERIAL_FIELD(SerialRecordVector(op, m_vecPartyMenu, OTHER(m_vecPartyMenu), file));
+  if (version >= 12) SERIAL_FIELD(SerialRecordVector(op, m_vecScoutMenu, OTHER(m_vecScoutMenu), file));
+  if (version >= 12) SERIAL_FIELD(SerialRecordVector(op, m_vecReviveMenu, OTHER(m_vecReviveMenu), file));
+  if (version >= 12) SERIAL_FIELD(SerialRecordVector(op, m_vecReleaseMenu, OTHER(m_vecReleaseMenu), file));
+  if (version >= 63) SERIAL_FIELD(SerialRecordVector(op, m_vecConfigMenu, OTHER(m_vecConfigMenu), file));
+  if (version >= 11) SERIAL_FIELD(SerialRecordVector(op, m_vecShopMenu, OTHER(m_vecShopMenu), file));
+  if (version >= 11) SERIAL_FIELD(SerialRecordVector(op, m_vecTrainingMenu, OTHER(m_vecTrainingMenu), file));
+  if (version >= 11) SERIAL_FIELD(SerialRecordVector(op, m_vecTrainSideMenu, OTHER(m_vecTrainSideMenu), file));
+  if (version >= 11) SERIAL_FIELD(SerialRecordVector(op, m_vecTrainEntryMenu, OTHER(m_vecTrainEntryMenu), file));
+  SERIAL_FIELD(SerialRecordVector(op, m_vecPrepareMenu, OTHER(m_vecPrepareMenu), file));
+  SERIAL_FIELD(SerialRecordVector(op, m_vecActionMenu, OTHER(m_vecActionMenu), file));
+  SERIAL_FIELD(SerialRecordVector(op, m_vecStageMenu, OTHER(m_vecStageMenu), file));
+  if (version >= 43) SERIAL_FIELD(SerialRecordVector(op, m_vecTestMenu, OTHER(m_vecTestMenu), file));
+  SERIAL_FIELD(SerialRecordVector(op, m_vecBattleMenu, OTHER(m_vecBattleMenu), file));
 
   SERIAL_FIELD(SerialRecordVector(op, m_vecElem, OTHER(m_vecElem), file));
   SERIAL_FIELD(SerialRecordVector(op, m_vecCateg, OTHER(m_vecCateg), file));

@@ -1,6 +1,7 @@
 #include "sound/music_render.h"
 
 #include <algorithm>
+#include <bit>
 
 #include "platform/file_io.h"
 #include "sound/sound_engine.h"
@@ -30,9 +31,9 @@ std::int64_t RenderPlayingMusic(int nChannel, std::int64_t maxFrames, std::vecto
 }
 
 bool WriteWavFile(const std::filesystem::path& path, const std::vector<std::int16_t>& frames) {
+  static_assert(std::endian::native == std::endian::little, "WAV samples are little-endian as memory is");
   const std::uint32_t dataBytes = static_cast<std::uint32_t>(frames.size() * sizeof(std::int16_t));
   std::vector<unsigned char> file;
-  file.reserve(44 + dataBytes);
   file.insert(file.end(), {'R', 'I', 'F', 'F'});
   Put(file, 36 + dataBytes, 4);
   file.insert(file.end(), {'W', 'A', 'V', 'E', 'f', 'm', 't', ' '});
@@ -45,6 +46,8 @@ bool WriteWavFile(const std::filesystem::path& path, const std::vector<std::int1
   Put(file, 16, 2);
   file.insert(file.end(), {'d', 'a', 't', 'a'});
   Put(file, dataBytes, 4);
-  for (std::int16_t sample : frames) Put(file, static_cast<std::uint16_t>(sample), 2);
-  return WriteFileAtomic(path, file.data(), file.size());
+  // The samples go out as they lie: an hour of music is not copied once more.
+  cAtomicFile out;
+  return out.Create(path) && out.Write(file.data(), file.size()) && out.Write(frames.data(), dataBytes) &&
+         out.Commit();
 }

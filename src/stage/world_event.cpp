@@ -5,13 +5,16 @@
 
 int cWorldEventPage::Serialize(int op, const cSerial* other, cSerialFile* file, std::uint32_t version) {
   const auto* o = SerialOther<cWorldEventPage>(other);
-  for (int cWorldEventPage::*field :
-       {&cWorldEventPage::m_nType, &cWorldEventPage::m_nGraphic, &cWorldEventPage::m_nStageNo,
-        &cWorldEventPage::m_bPassable, &cWorldEventPage::m_bReplay, &cWorldEventPage::m_nGameClear,
-        &cWorldEventPage::m_nCondStage, &cWorldEventPage::m_nCondVar, &cWorldEventPage::m_nCondValue,
-        &cWorldEventPage::m_nCondCmp}) {
-    SERIAL_FIELD(SerialInt(op, this->*field, o ? &(o->*field) : nullptr, file));
-  }
+  SERIAL_FIELD(SerialInt(op, m_nType, OTHER(m_nType), file));
+  SERIAL_FIELD(SerialInt(op, m_nGraphic, OTHER(m_nGraphic), file));
+  SERIAL_FIELD(SerialInt(op, m_nStageNo, OTHER(m_nStageNo), file));
+  SERIAL_FIELD(SerialInt(op, m_bPassable, OTHER(m_bPassable), file));
+  SERIAL_FIELD(SerialInt(op, m_bReplay, OTHER(m_bReplay), file));
+  SERIAL_FIELD(SerialInt(op, m_nGameClear, OTHER(m_nGameClear), file));
+  SERIAL_FIELD(SerialInt(op, m_nCondStage, OTHER(m_nCondStage), file));
+  SERIAL_FIELD(SerialInt(op, m_nCondVar, OTHER(m_nCondVar), file));
+  SERIAL_FIELD(SerialInt(op, m_nCondValue, OTHER(m_nCondValue), file));
+  SERIAL_FIELD(SerialInt(op, m_nCondCmp, OTHER(m_nCondCmp), file));
   if (version >= 54) {
     SERIAL_FIELD(SerialInt(op, m_bVariation, OTHER(m_bVariation), file));
     SERIAL_FIELD(SerialInt(op, m_nVarNo, OTHER(m_nVarNo), file));

@@ -29,10 +29,12 @@ void cWorldMap::Init() {
 
 int cWorldMap::Serialize(int op, const cSerial* other, cSerialFile* file, std::uint32_t version) {
   const auto* o = SerialOther<cWorldMap>(other);
-  for (int cWorldMap::*field : {&cWorldMap::m_nWidth, &cWorldMap::m_nHeight, &cWorldMap::m_nStride,
-                                &cWorldMap::m_nShift, &cWorldMap::m_nStartX, &cWorldMap::m_nStartY}) {
-    SERIAL_FIELD(SerialInt(op, this->*field, o ? &(o->*field) : nullptr, file));
-  }
+  SERIAL_FIELD(SerialInt(op, m_nWidth, OTHER(m_nWidth), file));
+  SERIAL_FIELD(SerialInt(op, m_nHeight, OTHER(m_nHeight), file));
+  SERIAL_FIELD(SerialInt(op, m_nStride, OTHER(m_nStride), file));
+  SERIAL_FIELD(SerialInt(op, m_nShift, OTHER(m_nShift), file));
+  SERIAL_FIELD(SerialInt(op, m_nStartX, OTHER(m_nStartX), file));
+  SERIAL_FIELD(SerialInt(op, m_nStartY, OTHER(m_nStartY), file));
   // Settings that the background replaced.
   if (version < 20) SERIAL_FIELD(SerialInt(op, g_nScratchInt, o ? &g_nScratchInt : nullptr, file));
   if (version >= 20 && version < 66) {

@@ -34,3 +34,11 @@ TEST(Cp932, ConvertsWithTheWindowsMappingAndRefusesWhatHasNoForm) {
   EXPECT_FALSE(Cp932ToUtf8("\x81\x20", utf8));  // a lead byte with no valid trail
   EXPECT_EQ(Cp932ToUtf8Lossy("x\x81"), "x\xEF\xBF\xBD");
 }
+
+TEST(Cp932, QuotedTextKeepsEveryByte) {
+  // ソ ends in 0x5C, which is no backslash there; the specials of ASCII are escaped.
+  EXPECT_EQ(Cp932QuotedUtf8("\x83\x5C" "a\"b\\c\r\n\t\x01"), "\"ソa\\\"b\\\\c\\r\\n\\t\\x01\"");
+  // A byte that decodes to nothing, a lead byte before a quote, a lead byte at the end.
+  EXPECT_EQ(Cp932QuotedUtf8("\xFD" "x\x81\"\x83"), "\"\\xFDx\\x81\\\"\\x83\"");
+  EXPECT_EQ(Cp932QuotedUtf8(""), "\"\"");
+}

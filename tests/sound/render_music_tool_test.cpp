@@ -36,6 +36,16 @@ TEST_F(RenderMusicToolTest, RendersAMultiTrackSongForTheLengthOfItsTempoMap) {
   EXPECT_EQ(WavFrames("short.wav"), 22050);
 }
 
+TEST_F(RenderMusicToolTest, ALongPieceRendersToItsEnd) {
+  if (FindSoundFont().empty()) GTEST_SKIP() << "no soundfont";
+  // A beat a second, 480 ticks a beat: a note at the start and one near the end of 700 s.
+  const std::uint32_t end = 700 * 480;
+  WriteBytes("long.mid", Concat({SmfHeader(0, 1, 480),
+                                 TimedTrack({{0, Tempo(1000000)}, {0, NoteOn(0, 60)}, {end - 480, NoteOn(0, 64)}}, end)}));
+  ASSERT_EQ(Tool({"render-music", "long.mid", "long.wav"}), kToolOk);
+  EXPECT_NEAR(WavFrames("long.wav"), 700 * 44100, 128);
+}
+
 TEST_F(RenderMusicToolTest, RefusesWhatIsNoMusic) {
   WriteBytes("not.mid", Bytes({'R', 'I', 'F', 'F'}));
   EXPECT_EQ(Tool({"render-music", "not.mid"}), kToolUsage);

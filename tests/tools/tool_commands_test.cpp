@@ -1,10 +1,12 @@
 // ortalune-tool as an author runs it.
 
+#include <map>
 #include <tuple>
 
 #include "project/prop_sheet_size.h"
 #include "command_table.h"
 #include "database/csv_file.h"
+#include "event/stored_events.h"
 #include "platform/cp932.h"
 #include "platform/stored_path.h"
 #include "kernel/record_vector_file.h"
@@ -18,15 +20,24 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string g_toolErr;
+std::string g_toolOut, g_toolErr;
 
 int Tool(std::vector<std::string> args) {
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
   int status = RunTool(args);
-  testing::internal::GetCapturedStdout();
+  g_toolOut = testing::internal::GetCapturedStdout();
   g_toolErr = testing::internal::GetCapturedStderr();
   return status;
+}
+
+// Every file below `dir` with its bytes.
+std::map<fs::path, std::vector<unsigned char>> FilesBelow(const fs::path& dir) {
+  std::map<fs::path, std::vector<unsigned char>> files;
+  for (const auto& entry : fs::recursive_directory_iterator(dir)) {
+    if (entry.is_regular_file()) files[entry.path()] = FileBytes(entry.path());
+  }
+  return files;
 }
 
 // Every file sheet of the table as a small bitmap (the fold sources at their full size).
@@ -115,6 +126,53 @@ TEST_F(CheckTest, ANewProjectIsCheckedThroughItsDefaultTreeWithoutChangingIt) {
   EXPECT_EQ(entries(), before);
 }
 
+TEST_F(CheckTest, RepairsAreListedValueByValueAndNoFileChanges) {
+  // Three elements, three terrain rows and two skill lists; the third element, the third
+  // terrain row and the second list are then removed from their files as a merge of
+  // another author's work might. A skill, a class and two cells of the stage use what
+  // goes.
+  g_System.m_vecElem.resize(3);
+  g_vecLand.assign(3, cLand());
+  g_vecSkillList.assign(2, cSkillList());
+  g_vecSkillList[0].m_vecSkill.resize(3);
+  g_vecSkillList[0].m_vecSkill[2].m_nElem = 2;
+  NumberSkillLists(g_vecSkillList);
+  g_vecClass.assign(1, cClass());
+  FitCommonVarNames(g_vecGValInfo);  // as every project has them
+  g_Stage.Init();
+  g_Stage.Resize(4, 3);
+  g_Stage.m_vecMap[1] = g_Stage.m_vecMap[(2 << g_Stage.m_nShift) + 3] = 2;
+  WriteProjectFiles("proj", "data");
+  WriteImages("proj/image");
+  VECTOR_CLASS<cLand> land(g_vecLand.begin(), g_vecLand.begin() + 2);
+  ASSERT_EQ(SaveVector(land, fs::path("proj/data/database/Land.dat")), 1);
+  VECTOR_CLASS<cSkillList> lists(g_vecSkillList.begin(), g_vecSkillList.begin() + 1);
+  ASSERT_EQ(SaveVector(lists, fs::path("proj/data/database/Skill.dat")), 1);
+  cSystem system = g_System;
+  system.m_vecElem.pop_back();
+  ASSERT_EQ(system.SaveFile(fs::path("proj/data/database/System.dat")), 1);
+  const auto before = FilesBelow("proj");
+
+  EXPECT_EQ(Tool({"check", "--repairs", "proj"}), kToolOk) << g_toolErr;
+  EXPECT_EQ(g_toolOut, "check: the project loads\n"
+                       "data/database/Land.dat: 2 repaired\n"
+                       "  row 0: m_vecElemRate: 3 entries -> 2 entries\n"
+                       "  row 1: m_vecElemRate: 3 entries -> 2 entries\n"
+                       "data/database/Skill.dat: 1 repaired\n"
+                       "  row 0: m_vecSkill[2].m_nElem: 2 -> 0\n"
+                       "data/database/Class.dat: 3 repaired\n"
+                       "  row 0: m_vecOrgSlot: 2 entries -> 1 entry\n"
+                       "  row 0: m_vecvecSense: 2 entries -> 1 entry\n"
+                       "  row 0: m_vecElemResist: 3 entries -> 2 entries\n"
+                       "data/stg/Default.stg2: 2 repaired\n"
+                       "  m_vecMap[1]: 2 -> 0\n"
+                       "  m_vecMap[" + std::to_string((2 << g_Stage.m_nShift) + 3) + "]: 2 -> 0\n"
+                       "check: 8 repaired values in 4 files; a save makes them permanent\n");
+  fs::current_path(m_dir);
+  EXPECT_EQ(FilesBelow("proj"), before);
+  m_prompt.shown.clear();
+}
+
 TEST_F(CheckTest, AMissingSheetIsReportedAsTheEditorWouldAndFails) {
   WriteProjectFiles("proj", "data");
   WriteImages("proj/image");
@@ -151,6 +209,21 @@ TEST_F(ResaveTest, TheTablesOfTheProjectHereAreLoadedFirstOrNothingIsWritten) {
   WriteProjectFiles(".", "data");
   EXPECT_EQ(Tool({"resave", "data/database/Skill.dat", "Skill.out"}), kToolOk) << g_toolErr;
   EXPECT_EQ(FileBytes("Skill.out"), FileBytes("data/database/Skill.dat"));
+  m_prompt.shown.clear();
+}
+
+TEST_F(ResaveTest, BeforeTheFirstStartTheTablesComeFromTheDefaultTree) {
+  // A stage whose cells use the last terrain row of the project.
+  g_vecLand.assign(5, cLand());
+  g_Stage.Init();
+  g_Stage.m_vecMap.assign(g_Stage.m_vecMap.size(), 4);
+  WriteProjectFiles(".", "default");
+  ASSERT_EQ(g_Stage.SaveFile(fs::path("Some.stg2")), 1);
+  g_vecLand.clear();
+
+  EXPECT_EQ(Tool({"resave", "Some.stg2", "Out.stg2"}), kToolOk) << g_toolErr;
+  EXPECT_NE(g_toolErr.find("resave: \"data\" does not exist yet; reading \"default\" in its place"), std::string::npos);
+  EXPECT_EQ(FileBytes("Out.stg2"), FileBytes("Some.stg2"));
   m_prompt.shown.clear();
 }
 

@@ -18,6 +18,7 @@ enum : int { kToolOk = 0, kToolFailed = 1, kToolUsage = 2 };
 
 int RunHelp(std::span<const std::string> args);
 int RunResave(std::span<const std::string> args);
+int RunDump(std::span<const std::string> args);
 int RunReport(std::span<const std::string> args);
 int RunCheck(std::span<const std::string> args);
 int RunRenderMusic(std::span<const std::string> args);

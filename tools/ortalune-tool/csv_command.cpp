@@ -5,10 +5,12 @@
 #include <charconv>
 #include <cstdio>
 #include <filesystem>
+#include <optional>
 
 #include "app/edit_config_load.h"
 #include "platform/main_window_link.h"
 #include "command_table.h"
+#include "project_here.h"
 #include "database/skill_csv_exchange.h"
 #include "platform/cp932.h"
 #include "platform/stored_path.h"
@@ -29,14 +31,16 @@ class cProjectScope {
  public:
   cProjectScope() : m_previous(fs::current_path()) {}
   ~cProjectScope() {
+    m_data.reset();
     SetStoredPathAlias("", "");
     std::error_code ec;
     fs::current_path(m_previous, ec);
   }
 
-  // Makes the project of `dir` current: a directory with "data" is the project root;
-  // where `dataDirToo`, a directory holding "database" is taken as the data directory
-  // of the project above it, under whatever name.
+  // Makes the project of `dir` current: a directory with "data", or before the editor's
+  // first start with "default", is the project root; where `dataDirToo`, a directory
+  // holding "database" is taken as the data directory of the project above it, under
+  // whatever name.
   bool Enter(const fs::path& dir, bool dataDirToo) {
     std::error_code ec;
     fs::path full = fs::canonical(dir, ec);
@@ -44,22 +48,25 @@ class cProjectScope {
       std::fprintf(stderr, "csv: cannot open %s: %s\n", dir.c_str(), ec.message().c_str());
       return false;
     }
-    if (fs::is_directory(NativePathOf("data", full), ec)) {
+    if (fs::is_directory(NativePathOf("data", full), ec) || fs::is_directory(NativePathOf("default", full), ec)) {
       fs::current_path(full, ec);
-      return !ec;
+      if (ec) return false;
+      m_data.emplace("csv");
+      return true;
     }
     if (dataDirToo && fs::is_directory(NativePathOf("database", full), ec)) {
       fs::current_path(full.parent_path(), ec);
       SetStoredPathAlias("data", Utf8ToCp932Lossy(full.filename().string()));
       return !ec;
     }
-    std::fprintf(stderr, "csv: %s is not a project directory (one holding \"data\")%s\n", dir.c_str(),
+    std::fprintf(stderr, "csv: %s is not a project directory (one holding \"data\" or \"default\")%s\n", dir.c_str(),
                  dataDirToo ? " nor a project's data directory (one holding \"database\")" : "");
     return false;
   }
 
  private:
   fs::path m_previous;
+  std::optional<cProjectDataHere> m_data;
 };
 
 // The project's tables as the editor loads them; its messages, if any, are shown as

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cctype>
+#include <cstdio>
 
 #include "project/edit_config.h"
 #include "project/prop_sheet_size.h"
@@ -14,6 +15,7 @@
 #include "database/move_ai.h"
 #include "database/skill_list.h"
 #include "event/stored_events.h"
+#include "kernel/record_file_describe.h"
 #include "kernel/record_vector_file.h"
 #include "project/project_globals.h"
 #include "project/system.h"
@@ -26,7 +28,9 @@ namespace {
 
 std::string Describe(const fs::path& path) { return path.string(); }
 
-std::string LoadFailureText(const fs::path& in) {
+}  // namespace
+
+std::string ReadFailureText(const fs::path& in) {
   std::error_code ec;
   if (!fs::exists(in, ec)) return Describe(in) + ": no such file";
   if (g_bFileTooNew) {
@@ -36,6 +40,8 @@ std::string LoadFailureText(const fs::path& in) {
   if (g_strLastSerialFailure.empty()) return Describe(in) + ": cannot be read";
   return Describe(in) + ": " + g_strLastSerialFailure;
 }
+
+namespace {
 
 cResaveResult Saved(const fs::path& in, const fs::path& out, std::uint32_t fromVersion) {
   std::error_code ec;
@@ -83,55 +89,52 @@ template <class Holder>
 cResaveResult Resave(const fs::path& in, const fs::path& out) {
   Holder holder;
   g_strLastSerialFailure.clear();
-  if (!cFileIo<Holder>::Load(holder, in)) return {false, LoadFailureText(in)};
+  if (!cFileIo<Holder>::Load(holder, in)) return {false, ReadFailureText(in)};
   std::uint32_t fromVersion = g_nFileVersion;
   if (!cFileIo<Holder>::Save(holder, out)) return SaveFailed(out);
   return Saved(in, out, fromVersion);
 }
 
+// A row of a file that holds one record, and of one that holds a vector of records.
+// `name` is the file's name, or, starting with a dot, the extension of several files.
 template <class T>
-constexpr auto ResaveRecord = &Resave<T>;
+constexpr cRecordFileType RecordFile(const char* typeName, const char* name, const char* summary) {
+  const bool extension = name[0] == '.';
+  return {typeName, extension ? "" : name, extension ? name : "", summary, &Resave<T>, false, &DescribeRecord<T>};
+}
+
 template <class T>
-constexpr auto ResaveVector = &Resave<VECTOR_CLASS<T>>;
+constexpr cRecordFileType VectorFile(const char* typeName, const char* name, const char* summary) {
+  return {typeName, name, "", summary, &Resave<VECTOR_CLASS<T>>, true, &DescribeRecord<T>};
+}
 
 // Later record classes join by adding a row.
 const std::array kRecordFileTypes = {
-    cRecordFileType{"Back", "Back.dat", "", "backgrounds (data\\database)", ResaveVector<cEdBack>},
-    cRecordFileType{"Bgm", "Bgm.dat", "", "music (data\\database)", ResaveVector<cEdBgm>},
-    cRecordFileType{"CharaAnim", "CharaAnim.dat", "", "character animations (data\\database)",
-                    ResaveVector<cCharaAnimPat>},
-    cRecordFileType{"Class", "Class.dat", "", "classes (data\\database)", ResaveVector<cClass>},
-    cRecordFileType{"Enemy", "Enemy.dat", "", "enemies with their AI (data\\database)", ResaveVector<cEnemy>},
-    cRecordFileType{"Friend", "Friend.dat", "", "allies (data\\database)", ResaveVector<cFriend>},
-    cRecordFileType{"CompatiType", "CompatiType.dat", "", "compatibility types (data\\database)",
-                    ResaveVector<cCompatiType>},
-    cRecordFileType{"EffectAnim", "EffectAnim.dat", "", "effect animations (data\\database)",
-                    ResaveVector<cEffectAnimPat>},
-    cRecordFileType{"Help", "Help.dat", "", "help topics (data\\database)", ResaveVector<cEdHelp>},
-    cRecordFileType{"Land", "Land.dat", "", "terrain (data\\database)", ResaveVector<cLand>},
-    cRecordFileType{"MoveAITemplate", "MoveAITemplate.dat", "", "saved move AI rule sets (data)",
-                    ResaveVector<cMoveAITemplate>},
-    cRecordFileType{"PartyVal", "PartyVal.dat", "", "party variables (data\\database)", ResaveVector<cPtVal>},
-    cRecordFileType{"Picture", "Picture.dat", "", "pictures (data\\database)", ResaveVector<cEdPicture>},
-    cRecordFileType{"Skill", "Skill.dat", "", "skill lists with their skills (data\\database)",
-                    ResaveVector<cSkillList>},
-    cRecordFileType{"Sound", "Sound.dat", "", "sound effects (data\\database)", ResaveVector<cEdSound>},
-    cRecordFileType{"System", "System.dat", "", "game-wide settings and terms (data\\database)",
-                    ResaveRecord<cSystem>},
-    cRecordFileType{"StartEvent", "StartEvent.dat", "", "the event the game runs at its start (data\\database)",
-                    ResaveRecord<cEvent>},
-    cRecordFileType{"GValInfo", "GValInfo.dat", "", "names of the common variables (data)", ResaveVector<cGValInfo>},
-    cRecordFileType{"EventPlt", "EventPlt.dat", "", "the event palette's templates (data)", ResaveVector<cEvent>},
-    cRecordFileType{"EventActionPlt", "EventActionPlt.dat", "", "the action palette (data)",
-                    ResaveVector<cEventActPlt>},
-    cRecordFileType{"EditConfig", "EditConfig.dat", "", "the editor's own settings and window places (e_data)",
-                    ResaveRecord<cEditConfig>},
-    cRecordFileType{"SheetSize", "SheetSize.dat", "", "property sheet scale of this machine (e_data)",
-                    ResaveRecord<cPropSheetSize>},
-    cRecordFileType{"Testplay", "Testplay.dat", "", "test play settings (e_data)", ResaveRecord<cTestPlay>},
-    cRecordFileType{"Stage", "", ".stg2", "one stage: map, enemies, events, groups (data\\stg)", ResaveRecord<cStage>},
-    cRecordFileType{"WorldMap", "WorldMap.dat", "", "the world map with its chips and events (data\\database)",
-                    ResaveRecord<cWorldMap>},
+    VectorFile<cEdBack>("Back", "Back.dat", "backgrounds (data\\database)"),
+    VectorFile<cEdBgm>("Bgm", "Bgm.dat", "music (data\\database)"),
+    VectorFile<cCharaAnimPat>("CharaAnim", "CharaAnim.dat", "character animations (data\\database)"),
+    VectorFile<cClass>("Class", "Class.dat", "classes (data\\database)"),
+    VectorFile<cEnemy>("Enemy", "Enemy.dat", "enemies with their AI (data\\database)"),
+    VectorFile<cFriend>("Friend", "Friend.dat", "allies (data\\database)"),
+    VectorFile<cCompatiType>("CompatiType", "CompatiType.dat", "compatibility types (data\\database)"),
+    VectorFile<cEffectAnimPat>("EffectAnim", "EffectAnim.dat", "effect animations (data\\database)"),
+    VectorFile<cEdHelp>("Help", "Help.dat", "help topics (data\\database)"),
+    VectorFile<cLand>("Land", "Land.dat", "terrain (data\\database)"),
+    VectorFile<cMoveAITemplate>("MoveAITemplate", "MoveAITemplate.dat", "saved move AI rule sets (data)"),
+    VectorFile<cPtVal>("PartyVal", "PartyVal.dat", "party variables (data\\database)"),
+    VectorFile<cEdPicture>("Picture", "Picture.dat", "pictures (data\\database)"),
+    VectorFile<cSkillList>("Skill", "Skill.dat", "skill lists with their skills (data\\database)"),
+    VectorFile<cEdSound>("Sound", "Sound.dat", "sound effects (data\\database)"),
+    RecordFile<cSystem>("System", "System.dat", "game-wide settings and terms (data\\database)"),
+    RecordFile<cEvent>("StartEvent", "StartEvent.dat", "the event the game runs at its start (data\\database)"),
+    VectorFile<cGValInfo>("GValInfo", "GValInfo.dat", "names of the common variables (data)"),
+    VectorFile<cEvent>("EventPlt", "EventPlt.dat", "the event palette's templates (data)"),
+    VectorFile<cEventActPlt>("EventActionPlt", "EventActionPlt.dat", "the action palette (data)"),
+    RecordFile<cEditConfig>("EditConfig", "EditConfig.dat", "the editor's own settings and window places (e_data)"),
+    RecordFile<cPropSheetSize>("SheetSize", "SheetSize.dat", "property sheet scale of this machine (e_data)"),
+    RecordFile<cTestPlay>("Testplay", "Testplay.dat", "test play settings (e_data)"),
+    RecordFile<cStage>("Stage", ".stg2", "one stage: map, enemies, events, groups (data\\stg)"),
+    RecordFile<cWorldMap>("WorldMap", "WorldMap.dat", "the world map with its chips and events (data\\database)"),
 };
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {
@@ -161,4 +164,38 @@ const cRecordFileType* FindRecordTypeForFile(const fs::path& path) {
     if (*type.extension != '\0' && EqualIgnoringCase(type.extension, extension)) return &type;
   }
   return nullptr;
+}
+
+const cRecordFileType* RecordTypeOrSay(const fs::path& path, const std::string& typeName, const char* command) {
+  const cRecordFileType* type = typeName.empty() ? FindRecordTypeForFile(path) : FindRecordTypeByName(typeName);
+  if (type != nullptr) return type;
+  if (typeName.empty()) {
+    std::fprintf(stderr, "%s: cannot tell the record type of '%s' from its name; give --type\n", command, path.c_str());
+  } else {
+    std::fprintf(stderr, "%s: unknown record type '%s'\n", command, typeName.c_str());
+  }
+  std::fprintf(stderr, "'ortalune-tool help' lists the record types\n");
+  return nullptr;
+}
+
+int DescribeFile(const cRecordFileType& type, cSerialFile& file, cFieldObserver& observer) {
+  if (!type.bRows) return type.describeRecord(file, observer);
+  std::uint32_t rows = 0;
+  if (!ReadRowCount(file, rows)) return 0;
+  observer.BeginList(rows);
+  for (std::uint32_t i = 0; i < rows; ++i) {
+    if (!type.describeRecord(file, observer)) return 0;
+  }
+  observer.EndList();
+  return 1;
+}
+
+bool TakeTypeOption(std::span<const std::string> args, std::size_t& i, std::string& typeName) {
+  if (args[i] == "--type" && i + 1 < args.size()) {
+    typeName = args[++i];
+    return true;
+  }
+  if (!args[i].starts_with("--type=")) return false;
+  typeName = args[i].substr(7);
+  return true;
 }

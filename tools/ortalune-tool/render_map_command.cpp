@@ -69,7 +69,8 @@ int RunRenderStage(std::span<const std::string> args) {
     return kToolUsage;
   }
   const std::string out = Absolute(args[1]);
-  if (!LoadProjectIn("", "render-stage")) return kToolFailed;
+  cProjectDataHere here("render-stage");
+  if (!LoadProjectHere(here, "render-stage")) return kToolFailed;
   const fs::path stageFile = StageFileIn(args[0]);
   if (!g_Stage.LoadFile(stageFile)) {
     std::fprintf(stderr, "render-stage: %s does not load as a stage file of this project\n", stageFile.c_str());
@@ -89,7 +90,8 @@ int RunRenderWorld(std::span<const std::string> args) {
     return kToolUsage;
   }
   const std::string out = Absolute(args[0]);
-  if (!LoadProjectIn("", "render-world")) return kToolFailed;
+  cProjectDataHere here("render-world");
+  if (!LoadProjectHere(here, "render-world")) return kToolFailed;
   cSurface picture;
   MAP_VIEW view;
   if (!MakeMapPicture(picture, g_WorldMap.m_nWidth, g_WorldMap.m_nHeight, view, "render-world")) return kToolFailed;

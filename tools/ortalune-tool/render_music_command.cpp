@@ -19,7 +19,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr double kDefaultSeconds = 600;
+// Without --seconds a piece plays to its end; this only stops a file that never ends
+// (a tune that loops on itself) before it fills the disk.
+constexpr double kCeilingSeconds = 3600;
 
 int Usage() {
   std::fprintf(stderr, "usage: ortalune-tool render-music IN OUT.wav [--seconds N]\n");
@@ -55,7 +57,8 @@ class cScratchReport {
 
 int RunRenderMusic(std::span<const std::string> args) {
   std::vector<std::string> files;
-  double seconds = kDefaultSeconds;
+  double seconds = kCeilingSeconds;
+  bool bSecondsGiven = false;
   for (std::size_t i = 0; i < args.size(); ++i) {
     if (args[i] != "--seconds") {
       files.push_back(args[i]);
@@ -64,9 +67,10 @@ int RunRenderMusic(std::span<const std::string> args) {
     if (++i == args.size()) return Usage();
     const std::string& text = args[i];
     auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
-    if (error != std::errc() || end != text.data() + text.size() || !(seconds > 0) || seconds > 24 * 3600) {
+    if (error != std::errc() || end != text.data() + text.size() || !(seconds > 0) || seconds > kCeilingSeconds) {
       return Usage();
     }
+    bSecondsGiven = true;
   }
   if (files.size() != 2) return Usage();
   std::error_code ec;
@@ -83,6 +87,7 @@ int RunRenderMusic(std::span<const std::string> args) {
   std::vector<std::int16_t> frames;
   int played = 0;
   bool silent = false;
+  bool cutAtCeiling = false;
   {
     cScratchReport report;
     StartOfflineSound(0);
@@ -90,6 +95,7 @@ int RunRenderMusic(std::span<const std::string> args) {
     silent = extension && (*extension == "mid" || *extension == "MID") && !SoundSynth();
     played = !silent && g_Music.SetSlot(0, stored, 100) && g_Music.Play(0, 0, 0, 0, 1);
     if (played) RenderPlayingMusic(0, static_cast<std::int64_t>(seconds * kSoundRate), frames);
+    cutAtCeiling = played && !bSecondsGiven && g_Music.IsPlaying(0);
     EndSound();
   }
   if (silent) {
@@ -105,5 +111,9 @@ int RunRenderMusic(std::span<const std::string> args) {
     return kToolFailed;
   }
   std::printf("render-music: %s, %.3f s\n", files[1].c_str(), static_cast<double>(frames.size() / 2) / kSoundRate);
+  if (cutAtCeiling) {
+    std::fprintf(stderr, "render-music: %s still played after %.0f s and was cut there; it may loop without end "
+                 "(--seconds N renders the first N seconds)\n", files[0].c_str(), kCeilingSeconds);
+  }
   return kToolOk;
 }

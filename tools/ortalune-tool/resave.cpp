@@ -1,16 +1,17 @@
 #include <cstdio>
 #include <string>
 #include <filesystem>
+#include <optional>
 #include <vector>
 
 #include "app/edit_config_load.h"
 #include "platform/main_window_link.h"
 #include "platform/cp932.h"
 #include "platform/prompt.h"
-#include "platform/stored_path.h"
 #include "project/project_globals.h"
 #include "project/project_load.h"
 #include "command_table.h"
+#include "project_here.h"
 #include "record_types.h"
 
 namespace fs = std::filesystem;
@@ -53,11 +54,7 @@ int RunResave(std::span<const std::string> args) {
   for (std::size_t i = 0; i < args.size(); ++i) {
     if (args[i] == "--no-project") {
       withProject = false;
-    } else if (args[i] == "--type" && i + 1 < args.size()) {
-      typeName = args[++i];
-    } else if (args[i].starts_with("--type=")) {
-      typeName = args[i].substr(7);
-    } else {
+    } else if (!TakeTypeOption(args, i, typeName)) {
       paths.push_back(args[i]);
     }
   }
@@ -68,19 +65,12 @@ int RunResave(std::span<const std::string> args) {
   fs::path in = paths[0];
   fs::path out = paths.size() == 2 ? fs::path(paths[1]) : in;
 
-  const cRecordFileType* type = typeName.empty() ? FindRecordTypeForFile(in) : FindRecordTypeByName(typeName);
-  if (type == nullptr) {
-    if (typeName.empty()) {
-      std::fprintf(stderr, "resave: cannot tell the record type of '%s' from its name; give --type\n", in.c_str());
-    } else {
-      std::fprintf(stderr, "resave: unknown record type '%s'\n", typeName.c_str());
-    }
-    std::fprintf(stderr, "'ortalune-tool help' lists the record types\n");
-    return kToolUsage;
-  }
+  const cRecordFileType* type = RecordTypeOrSay(in, typeName, "resave");
+  if (type == nullptr) return kToolUsage;
 
-  std::error_code ec;
-  if (withProject && fs::is_directory(NativePathOf("data"), ec)) {
+  std::optional<cProjectDataHere> project;
+  if (withProject) project.emplace("resave");
+  if (project && project->Found()) {
     if (!LoadTablesOfCurrentProject()) return kToolFailed;
   } else {
     std::fprintf(stderr,
