@@ -22,6 +22,8 @@
 #include "event/event_names.h"
 #include "forms/database/database_sheet.h"
 #include "platform/heap_pages.h"
+#include "project/project_files.h"
+#include "project/project_globals.h"
 #include "toolkit/wnd_class.h"
 
 namespace {
