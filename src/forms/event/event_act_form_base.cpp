@@ -1,5 +1,8 @@
 #include "forms/event/event_act_form_base.h"
 
+#include <QComboBox>
+#include <QLayout>
+
 #include "database/numbered_rows.h"
 #include "event/event_names.h"
 #include "event/event_page_rules.h"
@@ -116,7 +119,8 @@ void DLG_EACT_BASE::Declare(cFormTable& F, const cActCtrl& c) {
       F.EditStr(kText, c.label, &m_Work.m_vecStr[0],
                 {.nLimit = c.min * c.max * 2, .nLineLen = c.max, .nMaxLines = c.min, .bWide = 1})
           .Lines(c.lines)
-          .LabelAbove();
+          .LabelAbove()
+          .FixedPitch(c.max * 2);  // a line of the game's width is a line of the box
       break;
     case eActCtrl::kRename: F.Button(RenameId(c.slot), c.label).Named(c.name ? c.name : "変数名の入力"); return;
     case eActCtrl::kPlay: F.Button(kPlay, c.label).Named("BGMの再生"); return;
@@ -164,6 +168,15 @@ cActSlots DLG_EACT_BASE::ScreenSlots() {
 }
 
 void DLG_EACT_BASE::OnReady() {
+  // The window took its size before the combos had their rows; it takes it again, with
+  // the combos as wide as their rows, so that no row is cut.
+  if (!m_hWnd) return;
+  for (QComboBox* combo : m_hWnd->findChildren<QComboBox*>()) {
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    combo->updateGeometry();
+  }
+  for (QLayout* layout : m_hWnd->findChildren<QLayout*>()) layout->invalidate();
+  m_hWnd->adjustSize();
   if (auto* preview = GetDlgItem(kSymbolPreview) ? GetCtrl<CTRL_PICTURE_CLASS>(kSymbolPreview) : nullptr)
     DrawSymbolPreview(*preview, m_nSymbol);
 }

@@ -8,7 +8,7 @@ namespace {
 
 constexpr cActCtrl kMessage[] = {
     Column(),
-    TextSlot("テキスト", 29, 30).Lines(14).Span(3), NewRow(),
+    TextSlot("テキスト", 29, 30).Lines(12).Span(4), NewRow(),
     SymbolHelp(), NewRow(),
     VarHelp(), NewRow(),
     Note("☆「#P0～X.」でシンボル画像の表示\n"
@@ -16,7 +16,15 @@ constexpr cActCtrl kMessage[] = {
          "　例）#C1.　#C1_3z.（3桁、0で埋める）　#C1_3zp.（＋も表示）\n"
          "☆テキスト変数：#TURN. #CHARA. #LEADER. #TARGET. #ACTCHARA.\n"
          "　#BTLFRIEND. #BTLENEMY. #BEFORE. #AFTER. #CHANGE. #SKILL.",
-         4),
+         4), NewRow(),
+    Group("ピクチャー"),
+    Check(16, "ピクチャーを表示する"), Ref(17, "", eActList::kPicture).Span(2).As("ピクチャー"), NewRow(),
+    Enum(18, "表示位置", MSGPICPOS).Span(2).As("ピクチャーの表示位置"), NewRow(),
+    Edit(19, "表示位置のズレX、Y(dot)", -640, 640), Edit(20, "", -480, 480).As("表示位置のズレY(dot)"), NewRow(),
+    Check(21, "左右反転"), Check(22, "上下反転"), Edit(23, "透明度(0～255)", 0, 255), NewRow(),
+    Check(24, "画面からはみ出ないように自動調整").Span(2).As("ピクチャーを画面からはみ出ないように自動調整"),
+    Edit(25, "表示倍率(%)", 1, 1000),
+    EndGroup(),
     Column(),
     Group("ウインドウ"),
     Enum(0, "表示位置", SCREENPOS), NewRow(),
@@ -38,17 +46,7 @@ constexpr cActCtrl kMessage[] = {
     Check(15, "メッセージの消去(メッセージIDが非設定なら消去は失敗)").Span(2), NewRow(),
     Note("☆同一IDのメッセージと入れ替える", 2),
     EndGroup(),
-    Column(),
-    Group("ピクチャー"),
-    Check(16, "ピクチャーを表示する").Span(3), NewRow(),
-    Ref(17, "ピクチャー", eActList::kPicture).Span(2), NewRow(),
-    Enum(18, "表示位置", MSGPICPOS).Span(2).As("ピクチャーの表示位置"), NewRow(),
-    Edit(19, "表示位置のズレX、Y(dot)", -640, 640), Edit(20, "", -480, 480).As("表示位置のズレY(dot)"), NewRow(),
-    Check(21, "左右反転"), Check(22, "上下反転"), NewRow(),
-    Edit(23, "透明度(0～255)", 0, 255), NewRow(),
-    Check(24, "画面からはみ出ないように自動調整").Span(3).As("ピクチャーを画面からはみ出ないように自動調整"), NewRow(),
-    Edit(25, "表示倍率(%)", 1, 1000),
-    EndGroup(),
+    EndColumns(),
 };
 
 // Erasing by id leaves nothing else to say; the rest follows the position, the time
