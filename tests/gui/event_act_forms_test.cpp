@@ -3,13 +3,15 @@
 // refusals in the start event, and which slots each form lets the author set.
 
 #include <QComboBox>
-#include <QPlainTextEdit>
+#include <QLineEdit>
+#include <QTest>
 #include <climits>
 #include <map>
 
 #include "event/event_summary.h"
 #include "forms/event/event_act_form.h"
 #include "forms/event/event_act_form_base.h"
+#include "forms/input_forms.h"
 #include "gui/form_probe.h"
 #include "gui/stage_form_support.h"
 #include "platform/cp932.h"
@@ -263,6 +265,24 @@ TEST_F(EventActFormTest, ChoosingASoundOrPressingPlayPlaysItAndAFileThatWillNotP
   std::vector<std::string> shown;
   for (const auto& box : m_prompt.shown) shown.push_back(box.text);
   EXPECT_EQ(shown, std::vector<std::string>(2, Cp932FromLiteral("読み込み失敗！")));
+}
+
+TEST_F(EventActFormTest, ARenamedCommonVariableShowsAtOnceAndStaysWhenTheActionIsDeclined) {
+  using F = DLG_EACT_BASE;
+  cEventAct act = NewAct(EACT_COMMONVAR);
+  DuringModal([](DLG_CLASS& form) {
+    DuringModal([](DLG_CLASS& input) {
+      auto* edit = static_cast<QLineEdit*>(input.GetDlgItem(DLG_INPUT_STR::kIdInput));
+      edit->selectAll();
+      QTest::keyClicks(edit, "Gold");
+      Click(input, kIdOk);
+    });
+    Click(form, F::RenameId(0));
+    EXPECT_EQ(static_cast<QComboBox*>(form.GetDlgItem(F::SlotId(0)))->currentText(), QStringLiteral("001 Gold"));
+    Click(form, kIdCancel);
+  });
+  EXPECT_EQ(RunEventActForm(act, {.bNewAct = true}), 0);
+  EXPECT_EQ(g_vecGValInfo[1].m_strName, "Gold");
 }
 
 }  // namespace
