@@ -89,12 +89,12 @@ VECTOR_CLASS<cMoveAITemplate> g_vecCatalogTemplates(1);
 std::vector<cFormCatalogEntry> WithEventActForms(std::vector<cFormCatalogEntry> all) {
   static std::vector<cEventAct> acts(kEventActKinds);
   for (int kind = 0; kind < kEventActKinds; ++kind) {
-    const cActFormSpec* spec = ActFormSpecOf(kind);
-    if (spec == nullptr) continue;
+    const cActKindForm* kindForm = ActKindFormOf(kind);
+    if (kindForm == nullptr) continue;
     cEventAct& act = acts[static_cast<std::size_t>(kind)];
     act.m_nKind = kind;
     SetEventActDefaults(act);
-    all.push_back({spec->name, [&act] { return std::unique_ptr<DLG_CLASS>(MakeEventActForm(act, false, nullptr)); },
+    all.push_back({kindForm->name, [&act] { return std::unique_ptr<DLG_CLASS>(MakeEventActForm(act, false, nullptr)); },
                    [&act] { return SavedBytes(act); }});
   }
   return all;

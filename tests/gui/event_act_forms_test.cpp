@@ -166,8 +166,8 @@ TEST_F(EventActFormTest, TheStatusActionInTheStartEventRefusesCharactersAndEvent
   EXPECT_EQ(RowText(act), Cp932FromLiteral("ステータスの操作： 「001 Var1」を ＝ 「001 Var1」"));
 
   // Outside the start event the character's status is what a new action offers.
-  const cActFormSpec& spec = *ActFormSpecOf(EACT_STATUS);
-  EXPECT_STREQ(spec.startEventRefusal(EventActDefaultInts(EACT_STATUS)), "初期イベントではキャラのステータスは利用できません！");
+  const cActKindForm& kindForm = *ActKindFormOf(EACT_STATUS);
+  EXPECT_STREQ(kindForm.startEventRefusal(EventActDefaultInts(EACT_STATUS)), "初期イベントではキャラのステータスは利用できません！");
   cEventAct plain = NewAct(EACT_STATUS);
   DuringModal([](DLG_CLASS& form) { Click(form, kIdOk); });
   EXPECT_EQ(RunEventActForm(plain, {.bNewAct = true}), 1);
@@ -208,7 +208,7 @@ TEST_F(EventActFormTest, EachFormLetsTheAuthorSetOnlyTheSlotsThatApply) {
   for (const cRuleCase& c : cases) {
     cActSlots I = EventActDefaultInts(c.kind);
     for (auto [slot, value] : c.set) I[slot] = value;
-    EXPECT_EQ(ActFormSpecOf(c.kind)->applies(c.slot, I), c.applies) << "kind " << c.kind << " slot " << c.slot;
+    EXPECT_EQ(ActKindFormOf(c.kind)->applies(c.slot, I), c.applies) << "kind " << c.kind << " slot " << c.slot;
   }
 }
 

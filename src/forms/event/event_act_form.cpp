@@ -5,14 +5,14 @@
 
 #include "forms/event/event_act_form_base.h"
 
-const cActFormSpec* ActFormSpecOf(int kind) {
+const cActKindForm* ActKindFormOf(int kind) {
   for (auto forms : {ShowActForms(), MapActForms(), ValueActForms(), PartyActForms()})
-    for (const cActFormSpec& spec : forms)
-      if (spec.kind == kind) return &spec;
+    for (const cActKindForm& kindForm : forms)
+      if (kindForm.kind == kind) return &kindForm;
   return nullptr;
 }
 
-bool EventActHasForm(int kind) { return ActFormSpecOf(kind) != nullptr; }
+bool EventActHasForm(int kind) { return ActKindFormOf(kind) != nullptr; }
 
 // The form edits a copy; only its OK reaches the action. An action of a kind without
 // a form is left as it is.

@@ -80,14 +80,14 @@ void ResizeEventActSlots(cEventAct& act) {
   act.m_vecStr.resize(static_cast<std::size_t>(info.m_nStrCount));
 }
 
-DLG_EACT_BASE::DLG_EACT_BASE(const cActFormSpec& spec, const cEventAct& act, bool bStartEvent, QWidget* owner)
-    : cRecordForm(owner, spec.title, act, owner, owner != nullptr), m_Spec(spec), m_bStartEvent(bStartEvent) {
+DLG_EACT_BASE::DLG_EACT_BASE(const cActKindForm& kindForm, const cEventAct& act, bool bStartEvent, QWidget* owner)
+    : cRecordForm(owner, kindForm.title, act, owner, owner != nullptr), m_Kind(kindForm), m_bStartEvent(bStartEvent) {
   // The controls point into the slots: they must stand at their count before that.
   ResizeEventActSlots(m_Work);
   cFormTable& F = Table();
-  for (const cActCtrl& c : spec.ctrls) Declare(F, c);
+  for (const cActCtrl& c : kindForm.ctrls) Declare(F, c);
   F.OkCancel();
-  for (const cActCtrl& c : spec.ctrls)
+  for (const cActCtrl& c : kindForm.ctrls)
     if (c.type == eActCtrl::kSkillList) m_pSkill->FillLists(*this, m_Work.m_vecInt[c.slot]);
 }
 
@@ -108,7 +108,7 @@ void DLG_EACT_BASE::Declare(cFormTable& F, const cActCtrl& c) {
     case eActCtrl::kRef: F.Combo(id, c.label, slot, &rows(c.list), nullptr, FirstValueOf(c.list)); break;
     case eActCtrl::kSkillList: {
       unsigned skillId = id + 1;
-      for (const cActCtrl& s : m_Spec.ctrls)
+      for (const cActCtrl& s : m_Kind.ctrls)
         if (s.type == eActCtrl::kSkill) skillId = SlotId(s.slot);
       m_pSkill = std::make_unique<cSkillPair>(id, skillId);
       m_pSkill->DeclareList(F, c.label, slot);
@@ -162,7 +162,7 @@ std::vector<unsigned> DLG_EACT_BASE::IdsOf(const cActCtrl& c) const {
 
 cActSlots DLG_EACT_BASE::ScreenSlots() {
   cActSlots I = m_Work.m_vecInt;
-  for (const cActCtrl& c : m_Spec.ctrls)
+  for (const cActCtrl& c : m_Kind.ctrls)
     if (IsSlotCtrl(c.type)) I[c.slot] = Value(SlotId(c.slot));
   return I;
 }
@@ -185,8 +185,8 @@ void DLG_EACT_BASE::OnReady() {
 // follow the status and the graphic's preview.
 void DLG_EACT_BASE::OnUpdateEnable() {
   const cActSlots I = ScreenSlots();
-  for (const cActCtrl& c : m_Spec.ctrls) {
-    const bool on = m_Spec.applies == nullptr || m_Spec.applies(RuleSlotOf(c), I);
+  for (const cActCtrl& c : m_Kind.ctrls) {
+    const bool on = m_Kind.applies == nullptr || m_Kind.applies(RuleSlotOf(c), I);
     for (unsigned id : IdsOf(c)) EnableCtrl(id, on);
     if (c.type == eActCtrl::kGraphic) ShowGraphic(I[c.slot]);
   }
@@ -195,11 +195,11 @@ void DLG_EACT_BASE::OnUpdateEnable() {
 
 void DLG_EACT_BASE::FollowStatus(const cActSlots& I) {
   constexpr int kLeftSide = 0, kLeftStatus = 4;
-  if (m_Spec.kind != EACT_STATUS) return;
+  if (m_Kind.kind != EACT_STATUS) return;
   const int status = I[kLeftSide] == 0 && I[kLeftStatus] >= 0 && I[kLeftStatus] < kStatusInfoCount ? I[kLeftStatus] : -1;
   if (status == m_nRangeStatus) return;
   m_nRangeStatus = status;
-  for (const cActCtrl& c : m_Spec.ctrls) {
+  for (const cActCtrl& c : m_Kind.ctrls) {
     if ((c.flags & kActStatusRange) == 0) continue;
     auto* edit = GetCtrl<CTRL_EDITVAL_CLASS<int>>(SlotId(c.slot));
     if (edit == nullptr) continue;
@@ -230,14 +230,14 @@ void DLG_EACT_BASE::OnFormCommand(unsigned id, unsigned code) {
   } else if (id >= kRenameBase && id < kRenameBase + 100) {
     if (RenameCommonVar(*this, Value(SlotId(static_cast<int>(id - kRenameBase))))) RefreshVarNames();
   } else if (id == kGraphicList) {
-    for (const cActCtrl& c : m_Spec.ctrls) {
+    for (const cActCtrl& c : m_Kind.ctrls) {
       if (c.type != eActCtrl::kGraphic) continue;
       int graphic = Value(SlotId(c.slot));
       if (ChooseGraphic(kEventGraphicKind, &graphic, m_hWnd.data()))
         if (auto* edit = GetCtrl<CTRL_EDITVAL_CLASS<int>>(SlotId(c.slot))) edit->SetValue(graphic, true);
     }
   }
-  for (const cActCtrl& c : m_Spec.ctrls) {
+  for (const cActCtrl& c : m_Kind.ctrls) {
     if (c.type == eActCtrl::kPlay && id == kPlay) PlayMusic(Value(SlotId(c.slot)));
     if ((c.flags & kActPlaysSound) != 0 && id == SlotId(c.slot) && code == kNotifySelChange && m_bReady)
       PlaySound(Value(id));
@@ -247,7 +247,7 @@ void DLG_EACT_BASE::OnFormCommand(unsigned id, unsigned code) {
 void DLG_EACT_BASE::RefreshVarNames() {
   VECTOR_CLASS<std::string>& names = m_aRows[static_cast<std::size_t>(eActList::kCommonVar)];
   BuildVarLabels(names);
-  for (const cActCtrl& c : m_Spec.ctrls) {
+  for (const cActCtrl& c : m_Kind.ctrls) {
     unsigned id = 0;
     if (c.type == eActCtrl::kRef && c.list == eActList::kCommonVar) id = SlotId(c.slot);
     if (c.type == eActCtrl::kVarHelp) id = kVarHelpCombo;
@@ -283,15 +283,15 @@ void DLG_EACT_BASE::OnDestroy() {
 // The start event runs before any stage; what the kind cannot do there is refused, and
 // the form stays open for the author to change it.
 bool DLG_EACT_BASE::OnOk() {
-  if (!m_bStartEvent || m_Spec.startEventRefusal == nullptr) return true;
-  const char* refusal = m_Spec.startEventRefusal(m_Work.m_vecInt);
+  if (!m_bStartEvent || m_Kind.startEventRefusal == nullptr) return true;
+  const char* refusal = m_Kind.startEventRefusal(m_Work.m_vecInt);
   if (refusal == nullptr) return true;
   ErrorBox(Cp932FromLiteral(refusal));
   return false;
 }
 
 std::unique_ptr<DLG_EACT_BASE> MakeEventActForm(const cEventAct& act, bool bStartEvent, QWidget* owner) {
-  const cActFormSpec* spec = ActFormSpecOf(act.m_nKind);
-  if (spec == nullptr) return nullptr;
-  return std::make_unique<DLG_EACT_BASE>(*spec, act, bStartEvent, owner);
+  const cActKindForm* kindForm = ActKindFormOf(act.m_nKind);
+  if (kindForm == nullptr) return nullptr;
+  return std::make_unique<DLG_EACT_BASE>(*kindForm, act, bStartEvent, owner);
 }

@@ -32,7 +32,7 @@ class DLG_EACT_BASE : public cRecordForm<cEventAct> {
   static constexpr unsigned RenameId(int slot) { return kRenameBase + static_cast<unsigned>(slot); }
 
   // `act` must have its kind's slot counts.
-  DLG_EACT_BASE(const cActFormSpec& spec, const cEventAct& act, bool bStartEvent, QWidget* owner);
+  DLG_EACT_BASE(const cActKindForm& kindForm, const cEventAct& act, bool bStartEvent, QWidget* owner);
   ~DLG_EACT_BASE() override;
 
   // The integer slots as the screen shows them now: the working copy, with the value
@@ -58,7 +58,7 @@ class DLG_EACT_BASE : public cRecordForm<cEventAct> {
   void PlaySound(int row);
   void PlayMusic(int row);
 
-  const cActFormSpec& m_Spec;
+  const cActKindForm& m_Kind;
   bool m_bStartEvent;
   std::array<VECTOR_CLASS<std::string>, static_cast<std::size_t>(eActList::kCount)> m_aRows;
   std::unique_ptr<cSkillPair> m_pSkill;

@@ -116,7 +116,7 @@ using ActSlotRule = bool (*)(int slot, const cActSlots& I);
 // The message that refuses OK in the start event, or null to accept.
 using ActRefusal = const char* (*)(const cActSlots& I);
 
-struct cActFormSpec {
+struct cActKindForm {
   int kind;
   const char* name;   // the form's name in the catalog of forms
   const char* title;
@@ -126,10 +126,10 @@ struct cActFormSpec {
 };
 
 // The form of `kind`; null for a kind without one.
-const cActFormSpec* ActFormSpecOf(int kind);
+const cActKindForm* ActKindFormOf(int kind);
 
 // The tables of the kinds, by subject.
-std::span<const cActFormSpec> ShowActForms();   // message, picture, graphic, sound, music
-std::span<const cActFormSpec> MapActForms();    // wait, cursor, warp, enemies, allies, chips
-std::span<const cActFormSpec> ValueActForms();  // variables, status, money
-std::span<const cActFormSpec> PartyActForms();  // skills, shops, party
+std::span<const cActKindForm> ShowActForms();   // message, picture, graphic, sound, music
+std::span<const cActKindForm> MapActForms();    // wait, cursor, warp, enemies, allies, chips
+std::span<const cActKindForm> ValueActForms();  // variables, status, money
+std::span<const cActKindForm> PartyActForms();  // skills, shops, party

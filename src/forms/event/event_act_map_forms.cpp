@@ -75,7 +75,7 @@ bool MapChipApplies(int s, const cActSlots& I) {
   return true;
 }
 
-constexpr cActFormSpec kForms[] = {
+constexpr cActKindForm kForms[] = {
     {EACT_WAIT, "DLG_EACT_WAIT", "ウエイト", kWait},
     {EACT_MAPCURSOR, "DLG_EACT_SETMAPCURSOR", "マップカーソルの移動", kMapCursor, &MapCursorApplies},
     {EACT_WARP, "DLG_EACT_WARP", "ワープ", kWarp},
@@ -88,4 +88,4 @@ constexpr cActFormSpec kForms[] = {
 
 }  // namespace
 
-std::span<const cActFormSpec> MapActForms() { return kForms; }
+std::span<const cActKindForm> MapActForms() { return kForms; }

@@ -33,7 +33,7 @@ constexpr cActCtrl kAllyCount[] = {
     Ref(0, "", eActList::kFriend).As("味方"), Edit(1, "を +", -99, 99),
 };
 
-constexpr cActFormSpec kForms[] = {
+constexpr cActKindForm kForms[] = {
     {EACT_LEARNSKILL, "DLG_EACT_ACQUIRESKILL", "スキルの習得", kLearnSkill},
     {EACT_STOCK, "DLG_EACT_CREASESTOCK", "ストックの操作", kStock},
     {EACT_SHOPGOODS, "DLG_EACT_ADDSHOPSKILL", "商品の追加", kShopGoods, &ShopGoodsApplies},
@@ -44,4 +44,4 @@ constexpr cActFormSpec kForms[] = {
 
 }  // namespace
 
-std::span<const cActFormSpec> PartyActForms() { return kForms; }
+std::span<const cActKindForm> PartyActForms() { return kForms; }

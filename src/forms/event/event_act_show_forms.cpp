@@ -110,7 +110,7 @@ constexpr cActCtrl kBgm[] = {
 
 bool BgmApplies(int s, const cActSlots& I) { return s != 2 || I[0] == 2; }
 
-constexpr cActFormSpec kForms[] = {
+constexpr cActKindForm kForms[] = {
     {EACT_MESSAGE, "DLG_EACT_MESSAGE", "メッセージの表示", kMessage, &MessageApplies},
     {EACT_PICTURE, "DLG_EACT_PICTURE", "ピクチャーの表示", kPicture, &PictureApplies},
     {EACT_EVENTGRAPHIC, "DLG_EACT_CHANGEEVENTPIC", "イベントのグラフィックを変更", kEventGraphic},
@@ -120,4 +120,4 @@ constexpr cActFormSpec kForms[] = {
 
 }  // namespace
 
-std::span<const cActFormSpec> ShowActForms() { return kForms; }
+std::span<const cActKindForm> ShowActForms() { return kForms; }

@@ -81,7 +81,7 @@ constexpr cActCtrl kMoney[] = {
     Note(kChangeVars, 2),
 };
 
-constexpr cActFormSpec kForms[] = {
+constexpr cActKindForm kForms[] = {
     {EACT_EVENTVAR, "DLG_EACT_CREASEEVENTVAL", "イベント変数の操作", kEventVar},
     {EACT_COMMONVAR, "DLG_EACT_CREASEGVAL", "コモン変数の操作", kCommonVar},
     {EACT_STATUS, "DLG_EACT_STATUS", "ステータスの操作", kStatus, &StatusApplies, &StatusStartEventRefusal},
@@ -90,4 +90,4 @@ constexpr cActFormSpec kForms[] = {
 
 }  // namespace
 
-std::span<const cActFormSpec> ValueActForms() { return kForms; }
+std::span<const cActKindForm> ValueActForms() { return kForms; }
