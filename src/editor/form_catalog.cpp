@@ -17,6 +17,7 @@
 #include "forms/database/battle_ai_forms.h"
 #include "forms/database/learn_skill_form.h"
 #include "forms/database/sense_form.h"
+#include "forms/event/event_act_form_base.h"
 #include "forms/database/slot_forms.h"
 #include "forms/graphic_chooser.h"
 #include "forms/input_forms.h"
@@ -84,6 +85,21 @@ cMoveAI g_CatalogRule;
 cEndCond g_CatalogLine;
 VECTOR_CLASS<cMoveAITemplate> g_vecCatalogTemplates(1);
 
+// One action of each kind with a form, as a new one stands: the forms of the actions.
+std::vector<cFormCatalogEntry> WithEventActForms(std::vector<cFormCatalogEntry> all) {
+  static std::vector<cEventAct> acts(kEventActKinds);
+  for (int kind = 0; kind < kEventActKinds; ++kind) {
+    const cActKindForm* kindForm = ActKindFormOf(kind);
+    if (kindForm == nullptr) continue;
+    cEventAct& act = acts[static_cast<std::size_t>(kind)];
+    act.m_nKind = kind;
+    SetEventActDefaults(act);
+    all.push_back({kindForm->name, [&act] { return std::unique_ptr<DLG_CLASS>(MakeEventActForm(act, false, nullptr)); },
+                   [&act] { return SavedBytes(act); }});
+  }
+  return all;
+}
+
 template <class Form, class... Args>
 std::function<std::unique_ptr<DLG_CLASS>()> Make(Args... args) {
   return [=] { return std::unique_ptr<DLG_CLASS>(new Form(args...)); };
@@ -132,5 +148,6 @@ const std::vector<cFormCatalogEntry>& FormCatalog() {
       {"DLG_BATTLEAI_COND", [] { return std::make_unique<DLG_BATTLEAI_COND>(g_BattleAICond); },
        [] { return SavedBytes(g_BattleAICond); }},
   };
-  return catalog;
+  static const std::vector<cFormCatalogEntry> withActions = WithEventActForms(catalog);
+  return withActions;
 }

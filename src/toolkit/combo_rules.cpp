@@ -25,7 +25,9 @@ int cComboRules::RowOfValue(int value) const {
         break;
       }
   } else {
-    row = value - m_Init.nOffset;
+    // A stored value may lie anywhere in the int's range: no row, not an overflow.
+    const long long offsetRow = static_cast<long long>(value) - m_Init.nOffset;
+    row = offsetRow >= 0 && offsetRow < static_cast<long long>(m_vecRows.size()) ? static_cast<int>(offsetRow) : -1;
   }
   return row >= 0 && row < static_cast<int>(m_vecRows.size()) ? row : -1;
 }

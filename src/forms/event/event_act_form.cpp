@@ -1,10 +1,27 @@
-// Placeholder until the kinds' forms land: every kind reports no form and a run is a
-// Cancel, so the chooser and the event form can be built against the interface.
+// The entry of the chooser into the kinds' forms, and the table of which kind has
+// which form.
+
 #include "forms/event/event_act_form.h"
 
-bool EventActHasForm(int) { return false; }
+#include "forms/event/event_act_form_base.h"
 
-int RunEventActForm(cEventAct& act, const cEventActFormContext&) {
-  NormalizeEventAct(act);
-  return 0;
+const cActKindForm* ActKindFormOf(int kind) {
+  for (auto forms : {ShowActForms(), MapActForms(), ValueActForms(), PartyActForms()})
+    for (const cActKindForm& kindForm : forms)
+      if (kindForm.kind == kind) return &kindForm;
+  return nullptr;
+}
+
+bool EventActHasForm(int kind) { return ActKindFormOf(kind) != nullptr; }
+
+// The form edits a copy; only its OK reaches the action. An action of a kind without
+// a form is left as it is.
+int RunEventActForm(cEventAct& act, const cEventActFormContext& context) {
+  if (!EventActHasForm(act.m_nKind)) return 0;
+  ResizeEventActSlots(act);
+  if (context.bNewAct) SetEventActDefaults(act);
+  std::unique_ptr<DLG_EACT_BASE> form = MakeEventActForm(act, context.bStartEvent, context.owner);
+  const int result = form->DoModal();
+  if (result == 1) act.Copy(form->m_Work);
+  return result;
 }
