@@ -19,6 +19,7 @@
 #include "editor/dlg_testplay.h"
 #include "editor/map_scroll.h"
 #include "forms/database/database_sheet.h"
+#include "forms/event/dlg_event_set.h"
 #include "platform/cp932.h"
 #include "platform/diagnostics.h"
 #include "project/project_globals.h"
@@ -100,10 +101,18 @@ void VIEW_MAIN::ShowPalette(int palette) {
   if (m_pDlg != nullptr) m_pDlg->ShowPalette(palette);
 }
 
-// The event form comes with its palette; until then the shortcut refuses.
-bool VIEW_MAIN::EditEvent(cEvent&, bool) {
-  QApplication::beep();
-  return false;
+// The form makes the stage's undo step on OK, before the event takes the edits.
+bool VIEW_MAIN::EditEvent(cEvent& event, bool) { return RunEventSet(event, eEventTarget::kStage, this) == 1; }
+
+// The project's start event, saved by the form's OK.
+void VIEW_MAIN::EditStartEvent() {
+  cEditState& es = g_EditState;
+  es.m_bStartEvent = 1;
+  es.m_bEditPlaced = 1;
+  es.m_pEditEvent = &g_StartEvent;
+  RunEventSet(g_StartEvent, eEventTarget::kStart, this);
+  es.m_pEditEvent = nullptr;
+  es.m_bStartEvent = 0;
 }
 
 void VIEW_MAIN::SelectEnemyRow(int row) {
@@ -157,6 +166,7 @@ bool VIEW_MAIN::RunForm(int command) {
         if (m_pDlg != nullptr && m_pDlg->Chip() != nullptr) m_pDlg->Chip()->Relayout();
       }
       return true;
+    case IDM_START_EVENT: EditStartEvent(); return true;
     case IDM_POSITION_GROUPS:
       if (RunPositionGroups(this) == 1) PositionGroupsConfirmed();
       return true;

@@ -17,14 +17,18 @@
 #include "editor/dlg_chip.h"
 #include "editor/dlg_enemy.h"
 #include "editor/dlg_enemy_set.h"
+#include "editor/dlg_event.h"
 #include "editor/dlg_main.h"
 #include "editor/editor_shell.h"
 #include "editor/view_main.h"
+#include "forms/event/dlg_event_set.h"
+#include "forms/event/dlg_eventact.h"
 #include "gui/app_test_support.h"
 #include "gui/stage_form_support.h"
 #include "platform/cp932.h"
 #include "project/project_globals.h"
 #include "stage/edit_state.h"
+#include "stage/map_edit.h"
 
 namespace fs = std::filesystem;
 
@@ -182,6 +186,65 @@ TEST_F(StageEditorTest, AnEnemyInsertedInItsPaletteIsDrawnWithThePenAndItsRightD
   QCoreApplication::processEvents();
   EXPECT_EQ(g_EditState.m_nPalette, PALETTE_EVENT);
   EXPECT_EQ(m_view->Dlg()->Enemy(), nullptr);
+}
+
+// The author's path: a template put on the map, opened again, given a page with a wait,
+// and the stage saved with it.
+TEST_F(StageEditorTest, AnEventPutWithThePenIsEditedIntoTwoPagesWithAWaitAndSavedWithTheStage) {
+  // Until the kinds' forms are in, a stand-in confirms the wait with its defaults.
+  const bool realForm = EventActHasForm(EACT_WAIT);
+  cEventActForms previous;
+  if (!realForm)
+    previous = SetEventActForms({[](int) { return true; }, [](cEventAct& act, const cEventActFormContext&) {
+                                   SetEventActDefaults(act);
+                                   return 1;
+                                 }});
+  Menu(IDM_PALETTE_EVENT)->trigger();
+  DLG_EVENT* palette = m_view->Dlg()->Event();
+  ASSERT_NE(palette, nullptr);
+  ASSERT_GE(g_vecEventPlt.Count(), 1);
+  EXPECT_EQ(g_EditState.m_nSelected, 0) << "the first template is the pen's";
+  g_EditConfig.m_bEditIfPlaced = 1;
+  g_EditConfig.m_bEditBeforePut = 0;
+  g_Stage.m_vecEvent.clear();
+
+  m_view->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(m_view));
+  QWidget* map = m_view->Dlg()->m_Map.m_hWnd;
+  const QPoint cell(2 * 32 + 5, 3 * 32 + 5);
+  QTest::mouseClick(map, Qt::LeftButton, {}, cell);
+  ASSERT_EQ(g_Stage.m_vecEvent.Count(), 1);
+
+  bool opened = false;
+  DuringModal([&](DLG_CLASS& form) {
+    opened = DLG_EVENT_SET::Live() == &form;
+    Click(form, DLG_EVENT_SET::kIdPageInsert);
+    DuringModal([realForm](DLG_CLASS& chooser) {
+      if (realForm) DuringModal([](DLG_CLASS& wait) { Click(wait, kIdOk); });
+      Click(chooser, DLG_EVENTACT::ButtonOf(EACT_WAIT));
+    });
+    Click(form, DLG_EVENT_SET::kIdActInsert);
+    Click(form, kIdOk);
+  });
+  QTest::mouseClick(map, Qt::LeftButton, {}, cell);  // placed already: the form opens on it
+  EXPECT_TRUE(opened);
+  EXPECT_EQ(g_Stage.m_vecEvent.Count(), 1);
+
+  g_EditState.m_strStagePath = "data\\stg\\Authored.stg2";
+  fs::create_directories("data/stg");
+  Menu(IDM_SAVE)->trigger();
+  cStage read;
+  ASSERT_TRUE(read.LoadFile(g_EditState.m_strStagePath.c_str()));
+  ASSERT_EQ(read.m_vecEvent.Count(), 1);
+  const cEvent& event = read.m_vecEvent[0];
+  EXPECT_EQ(std::make_pair(event.m_nX, event.m_nY), std::make_pair(2, 3));
+  ASSERT_EQ(event.m_vecPage.Count(), 2);
+  ASSERT_EQ(event.m_vecPage[0].m_vecAct.Count(), 1);
+  EXPECT_EQ(event.m_vecPage[0].m_vecAct[0].m_nKind, EACT_WAIT);
+  EXPECT_EQ(event.m_vecPage[0].m_vecAct[0].m_vecInt, VECTOR_CLASS<std::int32_t>{10}) << "the wait's default";
+  Undo();
+  EXPECT_EQ(g_Stage.m_vecEvent[0].m_vecPage.Count(), 1) << "the form's OK is one undo step";
+  if (!realForm) SetEventActForms(previous);
 }
 
 TEST_F(StageEditorTest, ThePalettesLeaveTheirPlacesForTheNextStart) {
