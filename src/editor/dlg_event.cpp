@@ -20,7 +20,7 @@ DLG_EVENT::DLG_EVENT(QWidget* owner, std::function<void(int)> keys, std::functio
   cFormTable& F = Table();
   F.Check(cEventPalette::kIdEditIfPlaced, "配置済みなら編集", &g_EditConfig.m_bEditIfPlaced).Span(4).Row();
   F.Check(cEventPalette::kIdEditBeforePut, "配置直前に編集", &g_EditConfig.m_bEditBeforePut).Span(4).Row();
-  F.List(cEventPalette::kIdList, "イベント", m_Palette.m_List, m_Palette.Init(), kListFirstFree, 16).Span(4).Row();
+  F.List(cEventPalette::kIdList, "イベント", m_Palette.m_List, m_Palette.Init(), kListFirstFree, 16).LabelAbove().Span(4).Row();
   F.Button(cEventPalette::kIdInsert, "挿入");
   F.Button(cEventPalette::kIdEdit, "編集");
   F.Button(cEventPalette::kIdDelete, "削除");

@@ -57,29 +57,27 @@ DLG_EVENT_SET::DLG_EVENT_SET(cEvent& target, eEventTarget kind, QWidget* parent)
   auto notStart = [this] { return !m_bStartEvent; };
   cFormTable& F = Table();
   F.Column();
-  F.EditStr(kIdName, "イベント名", &m_Event.m_strName, WideLine(40)).LabelAbove().Span(3).EnableIf(notStart).Row();
-  F.Check(kIdHeld, "キャラにこのイベントを所持させる", &m_Event.m_bHeldByChara).Span(3).EnableIf(notStart).Row();
   F.Group("ページ");
-  F.List(kIdPageList, "", m_PageList, pages, kListFirstFree, 12).Span(2).EnableIf(notStart).Row();
+  F.List(kIdPageList, "", m_PageList, pages, kListFirstFree, 6).Span(3).EnableIf(notStart).Row();
   F.Button(kIdPageInsert, "挿入").EnableIf(notStart);
   F.Button(kIdPageDelete, "削除").EnableIf(notStart).Row();
   F.EndGroup();
   F.Group("グラフィック");
   F.EditVal(kIdGraphic, "グラフィック", &m_PageEdit.m_nGraphic, 0, kGraphicMax, 1, kIdGraphicSpin).EnableIf(notStart);
-  F.Button(kIdGraphicList, "一覧").EnableIf(notStart).Row();
+  F.Button(kIdGraphicList, "一覧").EnableIf(notStart);
   F.Picture(kIdPreview, "グラフィック", 32, 32).Row();
   F.EndGroup();
-
-  F.Column();
-  DeclarePageControls(F);
-
-  F.Column();
   F.Group("アクション");
-  F.List(kIdActList, "", m_ActList, acts, kListSecondFree, 24).Span(3).FixedPitch(40).Row();
+  F.List(kIdActList, "", m_ActList, acts, kListSecondFree, 14).Span(3).FixedPitch(32).Row();
   F.Button(kIdActInsert, "挿入");
   F.Button(kIdActEdit, "編集");
   F.Button(kIdActDelete, "削除").Row();
   F.EndGroup();
+
+  F.Column();
+  F.EditStr(kIdName, "イベント名", &m_Event.m_strName, WideLine(40)).Span(3).EnableIf(notStart);
+  F.Check(kIdHeld, "キャラにこのイベントを所持させる", &m_Event.m_bHeldByChara).Span(3).EnableIf(notStart).Row();
+  DeclarePageControls(F);
   F.OkCancel();
 }
 

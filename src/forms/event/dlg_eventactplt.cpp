@@ -17,7 +17,7 @@ DLG_EVENTACTPLT::DLG_EVENTACTPLT(VECTOR_CLASS<cEventActPlt>& palette, int sel, Q
   init.pfnRowText = [](std::string& out, int, const cEventActPlt& entry) { out = entry.m_strName; };
 
   cFormTable& F = Table();
-  F.List(kIdList, "アクションパレット", m_List, init, kListFirstFree, 14).Span(3).Row();
+  F.List(kIdList, "アクションパレット", m_List, init, kListFirstFree, 14).LabelAbove().Span(3).Row();
   F.Button(kIdUp, "↑");
   F.Button(kIdDown, "↓");
   F.Button(kIdDelete, "削除").Row();
