@@ -1,6 +1,5 @@
 #include "editor/dlg_event.h"
 
-#include <QTimer>
 #include <algorithm>
 
 #include "forms/event/dlg_event_set.h"
@@ -16,7 +15,8 @@ constexpr int kMinSide = 100, kMaxWidth = 640, kMaxHeight = 480;
 }  // namespace
 
 DLG_EVENT::DLG_EVENT(QWidget* owner, std::function<void(int)> keys, std::function<void()> mapChanged)
-    : DLG_CLASS(owner, "イベントパレット"), m_fnKeys(std::move(keys)), m_fnMapChanged(std::move(mapChanged)) {
+    : cPaletteWindow(owner, "イベントパレット", g_EditConfig.m_PosEvent, std::move(keys)),
+      m_fnMapChanged(std::move(mapChanged)) {
   cFormTable& F = Table();
   F.Check(cEventPalette::kIdEditIfPlaced, "配置済みなら編集", &g_EditConfig.m_bEditIfPlaced).Span(4).Row();
   F.Check(cEventPalette::kIdEditBeforePut, "配置直前に編集", &g_EditConfig.m_bEditBeforePut).Span(4).Row();
@@ -35,29 +35,15 @@ DLG_EVENT::DLG_EVENT(QWidget* owner, std::function<void(int)> keys, std::functio
     return InputValue(this, nullptr, &count, 1, 999, CP932_TEXT("データ数")) == 1;
   };
 
-  // Where the author left it, else beside the main window's right edge, 10 pixels down.
-  const cWndPosInfo& stored = g_EditConfig.m_PosEvent;
-  if (stored.m_bValid) {
-    m_nX = stored.m_nX, m_nY = stored.m_nY;
-    SetMetrics(std::clamp(stored.m_nWidth, kMinSide, kMaxWidth), std::clamp(stored.m_nHeight, kMinSide, kMaxHeight),
+  // The author sizes it within its limits; it opens at the size it was left at.
+  if (m_Place.m_bValid)
+    SetMetrics(std::clamp(m_Place.m_nWidth, kMinSide, kMaxWidth), std::clamp(m_Place.m_nHeight, kMinSide, kMaxHeight),
                kMinSide, kMinSide, kMaxWidth, kMaxHeight);
-  } else {
+  else
     SetMetrics(0, 0, kMinSide, kMinSide, kMaxWidth, kMaxHeight);
-    if (owner != nullptr) {
-      const QRect frame = owner->frameGeometry();
-      m_nX = frame.right() + 1, m_nY = frame.top() + 10;
-    }
-  }
 }
 
 DLG_EVENT::~DLG_EVENT() { End(0); }
-
-// A palette window; its flags are set before it is placed, since a change of flags
-// forgets the window's place.
-void DLG_EVENT::OnInitDialog() {
-  m_hWnd->setWindowFlag(Qt::Tool);
-  DLG_CLASS::OnInitDialog();
-}
 
 // The row chosen the last time the palette stood is chosen again.
 void DLG_EVENT::OnReady() {
@@ -67,14 +53,3 @@ void DLG_EVENT::OnReady() {
 }
 
 void DLG_EVENT::OnFormCommand(unsigned id, unsigned code) { m_Palette.Command(id, code); }
-
-void DLG_EVENT::OnKeyDown(int key, bool bCtrl) {
-  const int qtKey = key == 0x20 ? Qt::Key_Space : key == 0x74 ? Qt::Key_F5 : 0;
-  if (qtKey == 0 || !m_fnKeys || m_hParent == nullptr) return DLG_CLASS::OnKeyDown(key, bCtrl);
-  // A change of palette takes this window away: it runs once the key has been handled.
-  QTimer::singleShot(0, m_hParent, [keys = m_fnKeys, qtKey] { keys(qtKey); });
-}
-
-void DLG_EVENT::OnDestroy() {
-  if (m_hWnd) g_EditConfig.m_PosEvent.Set(m_hWnd->x(), m_hWnd->y(), m_hWnd->width(), m_hWnd->height());
-}

@@ -7,10 +7,10 @@
 #include <functional>
 
 #include "editor/event_palette.h"
-#include "toolkit/dlg_class.h"
+#include "editor/palette_window.h"
 #include "toolkit/live_instance.h"
 
-class DLG_EVENT : public DLG_CLASS, public cLiveInstance<DLG_EVENT> {
+class DLG_EVENT : public cPaletteWindow, public cLiveInstance<DLG_EVENT> {
  public:
   // `owner` is the main window, which the palette opens beside; `keys` receives Space
   // and F5 (Qt key codes), which belong to it; `mapChanged` draws the map again.
@@ -20,15 +20,9 @@ class DLG_EVENT : public DLG_CLASS, public cLiveInstance<DLG_EVENT> {
   cEventPalette m_Palette;
 
  protected:
-  void OnInitDialog() override;
   void OnReady() override;
   void OnFormCommand(unsigned id, unsigned code) override;
-  void OnKeyDown(int key, bool bCtrl) override;
-  // The palette stays while its palette is current: Escape and the close box leave it.
-  void OnClose() override {}
-  void OnDestroy() override;
 
  private:
-  std::function<void(int)> m_fnKeys;
   std::function<void()> m_fnMapChanged;
 };

@@ -357,6 +357,10 @@ TEST_F(EventPaletteTest, TheSelectionIsThePensTemplateAndACopyFillsTheMapsClipbo
             std::make_tuple(-1, 0, 0));
   Click(*m_palette, cEventPalette::kIdEdit);
   EXPECT_EQ(m_nForms, 0) << "the blank row names no template";
+
+  g_EditConfig.m_PosEvent.m_bValid = 0;
+  m_palette.reset();
+  EXPECT_TRUE(g_EditConfig.m_PosEvent.m_bValid) << "its place is kept for the next time";
 }
 
 TEST_F(EventPaletteTest, ADeclinedInsertTakesItsRowAgainAndAConfirmedOneStays) {

@@ -3,7 +3,7 @@
 #include "forms/event/action_palette.h"
 #include "project/project_files.h"
 #include "project/project_globals.h"
-#include "toolkit/ctrl_types.h"
+#include "toolkit/list_order.h"
 
 DLG_EVENTACTPLT::DLG_EVENTACTPLT(VECTOR_CLASS<cEventActPlt>& palette, int sel, QWidget* parent)
     : DLG_CLASS(parent, "イベントアクションパレット"), m_vecPalette(palette), m_nFirstSel(sel) {
@@ -40,17 +40,7 @@ bool DLG_EVENTACTPLT::OnOk() {
   return true;
 }
 
-void DLG_EVENTACTPLT::OnFormCommand(unsigned id, unsigned) {
-  switch (id) {
-    case kIdUp: m_List.MoveRow(-1); break;
-    case kIdDown: m_List.MoveRow(1); break;
-    case kIdDelete:
-      m_List.Delete(-1, 0);
-      UpdateAllExcept(m_List);
-      break;
-    default: break;
-  }
-}
+void DLG_EVENTACTPLT::OnFormCommand(unsigned id, unsigned) { OrderButtonCommand(*this, m_List, {kIdUp, kIdDown, kIdDelete}, id); }
 
 void DLG_EVENTACTPLT::OnUpdateEnable() {
   if (auto* label = GetCtrl<CTRL_LABEL_CLASS>(kIdContents)) label->SetText(PaletteContentsText(m_Edit));
