@@ -13,6 +13,7 @@
 #include "editor/command_bar.h"
 #include "editor/dlg_chip.h"
 #include "editor/dlg_enemy.h"
+#include "editor/dlg_event.h"
 #include "editor/dlg_grouppos.h"
 #include "editor/dlg_main.h"
 #include "editor/dlg_stage.h"
@@ -202,7 +203,12 @@ int VIEW_MAIN::PopupEventMenu(const bool* enabled) {
     action->setEnabled(enabled[i]);
   }
   QAction* chosen = menu.exec(QCursor::pos());
-  return chosen != nullptr ? chosen->data().toInt() : 0;
+  const int id = chosen != nullptr ? chosen->data().toInt() : 0;
+  // A copy or cut of an event on the map also reaches the event palette's own clipboard.
+  const cEvent* event = g_EditState.m_pEditEvent;
+  if ((id == IDM_EVENT_COPY || id == IDM_EVENT_CUT) && event != nullptr && m_pDlg != nullptr && m_pDlg->Event() != nullptr)
+    m_pDlg->Event()->m_Palette.m_List.m_vecClip = {*event};
+  return id;
 }
 
 void VIEW_MAIN::StorePlace() {

@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QMenu>
+#include <QTimer>
 #include <QTest>
 #include <QToolButton>
 #include <filesystem>
@@ -28,6 +30,7 @@
 #include "platform/cp932.h"
 #include "project/project_globals.h"
 #include "stage/edit_state.h"
+#include "stage/event_menu.h"
 #include "stage/map_edit.h"
 
 namespace fs = std::filesystem;
@@ -244,6 +247,25 @@ TEST_F(StageEditorTest, AnEventPutWithThePenIsEditedIntoTwoPagesWithAWaitAndSave
   EXPECT_EQ(event.m_vecPage[0].m_vecAct[0].m_vecInt, VECTOR_CLASS<std::int32_t>{10}) << "the wait's default";
   Undo();
   EXPECT_EQ(g_Stage.m_vecEvent[0].m_vecPage.Count(), 1) << "the form's OK is one undo step";
+
+  // Copied on the map, the event pastes into the palette as a template.
+  m_view->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(m_view));
+  QTimer::singleShot(0, [] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (QAction* a : menu->actions())
+      if (a->data().toInt() == IDM_EVENT_COPY) menu->setActiveAction(a);
+    QTest::keyClick(menu, Qt::Key_Return);
+  });
+  QTest::mousePress(map, Qt::RightButton, {}, cell);
+  QTest::mouseRelease(map, Qt::RightButton, {}, cell);
+  EXPECT_EQ(g_EditState.m_bEventClip, 1);
+  const int templates = g_vecEventPlt.Count();
+  palette->m_Palette.m_List.SelectOnly(templates, 0);
+  palette->SendCommand(40032, 0);  // Ctrl+V at the blank row
+  ASSERT_EQ(g_vecEventPlt.Count(), templates + 1);
+  EXPECT_EQ(g_vecEventPlt.back().m_vecPage.Count(), 1);
   if (!realForm) SetEventActForms(previous);
 }
 
