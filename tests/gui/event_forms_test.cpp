@@ -2,17 +2,20 @@
 // The kinds' own forms stand behind an interface; here a stand-in takes their place
 // that, like them, gives a new action its kind's defaults and answers OK or Cancel.
 
+#include <QComboBox>
 #include <QListWidget>
 #include <QMenu>
 #include <QTest>
 #include <filesystem>
 
 #include "event/event_summary.h"
+#include "event/stored_events.h"
 #include "editor/dlg_event.h"
 #include "forms/event/action_palette.h"
 #include "forms/event/dlg_event_set.h"
 #include "forms/event/dlg_eventact.h"
 #include "forms/event/dlg_eventactplt.h"
+#include "forms/input_forms.h"
 #include "gui/stage_form_support.h"
 #include "kernel/record_vector_file.h"
 #include "platform/cp932.h"
@@ -203,6 +206,29 @@ TEST_F(EventFormTest, TheStartEventOffersOnlyItsKindsAndOkSavesItsFile) {
   EXPECT_EQ(SavedBytes(saved), SavedBytes(g_StartEvent));
   EXPECT_EQ(saved.m_vecPage[0].m_vecAct.Count(), 1);
   EXPECT_FALSE(g_EditState.m_History.CanUndo()) << "the start event is no part of the stage";
+}
+
+TEST_F(EventFormTest, TheRenameOfACommonVariableShowsAtOnceAndVariableNoneBeeps) {
+  FitCommonVarNames(g_vecGValInfo);
+  cEvent event;
+  event.m_vecPage[0].m_nCommonVar = 5;
+  auto form = Open(event);
+  EXPECT_TRUE(form->GetDlgItem(DLG_EVENT_SET::kIdCommonVarValue)->isEnabled());
+  DuringModal([](DLG_CLASS& input) {
+    QTest::keyClicks(input.GetDlgItem(cInputForm::kIdInput), QStringLiteral("gold"));
+    Click(input, kIdOk);
+  });
+  Click(*form, DLG_EVENT_SET::kIdRename);
+  EXPECT_EQ(g_vecGValInfo[5].m_strName, "gold");
+  auto* combo = static_cast<QComboBox*>(form->GetDlgItem(DLG_EVENT_SET::kIdCommonVar));
+  EXPECT_EQ(combo->currentText(), QStringLiteral("005 gold")) << "the selection stays, with its new name";
+  EXPECT_TRUE(std::filesystem::exists(Path("data/GValInfo.dat")));
+
+  Choose(*form, DLG_EVENT_SET::kIdCommonVar, 0);
+  EXPECT_FALSE(form->GetDlgItem(DLG_EVENT_SET::kIdCommonVarValue)->isEnabled());
+  Click(*form, DLG_EVENT_SET::kIdRename);
+  EXPECT_EQ(m_prompt.beeps, 1);
+  form->SendCommand(kIdCancel, kNotifyClicked);
 }
 
 class ActionPaletteTest : public EventFormTest {

@@ -269,6 +269,20 @@ TEST_F(StageEditorTest, AnEventPutWithThePenIsEditedIntoTwoPagesWithAWaitAndSave
   if (!realForm) SetEventActForms(previous);
 }
 
+TEST_F(StageEditorTest, TheStartEventOpensFromTheMenuAndItsOkSavesItsFile) {
+  std::filesystem::remove("data/database/StartEvent.dat");
+  bool opened = false;
+  DuringModal([&](DLG_CLASS& form) {
+    opened = DLG_EVENT_SET::Live() == &form && !form.GetDlgItem(DLG_EVENT_SET::kIdPageList)->isEnabled();
+    Click(form, kIdOk);
+  });
+  Menu(IDM_START_EVENT)->trigger();
+  EXPECT_TRUE(opened);
+  EXPECT_TRUE(fs::exists("data/database/StartEvent.dat"));
+  EXPECT_EQ(g_EditState.m_pEditEvent, nullptr);
+  EXPECT_FALSE(Menu(IDM_UNDO)->isEnabled()) << "no undo step for the start event";
+}
+
 TEST_F(StageEditorTest, ThePalettesLeaveTheirPlacesForTheNextStart) {
   QTest::keyClick(m_view->Dlg(), Qt::Key_Space);
   ASSERT_NE(m_view->Dlg()->Enemy(), nullptr);
