@@ -8,6 +8,7 @@
 
 #include "editor/dlg_chip.h"
 #include "editor/dlg_enemy.h"
+#include "editor/dlg_event.h"
 #include "editor/map_scroll.h"
 #include "editor/qt_prompt.h"
 #include "project/project_globals.h"
@@ -114,6 +115,7 @@ void DLG_MAIN::Scrolled() {
 void DLG_MAIN::ShowPalette(int palette) {
   if (palette != PALETTE_CHIP) delete m_pDlgChip.data();
   if (palette != PALETTE_ENEMY) m_pDlgEnemy.reset();
+  if (palette != PALETTE_EVENT) m_pDlgEvent.reset();
   auto keys = [this](int key) {
     if (m_onKey) m_onKey(key);
   };
@@ -124,6 +126,10 @@ void DLG_MAIN::ShowPalette(int palette) {
   if (palette == PALETTE_ENEMY && m_pDlgEnemy == nullptr) {
     m_pDlgEnemy = std::make_unique<DLG_ENEMY>(window(), keys, [this] { Redraw(); });
     m_pDlgEnemy->Create();
+  }
+  if (palette == PALETTE_EVENT && m_pDlgEvent == nullptr) {
+    m_pDlgEvent = std::make_unique<DLG_EVENT>(window(), keys, [this] { Redraw(); });
+    m_pDlgEvent->Create();
   }
 }
 
@@ -138,10 +144,12 @@ void DLG_MAIN::RefreshPalette() {
 void DLG_MAIN::SetPaletteVisible(bool visible) {
   if (m_pDlgChip != nullptr) m_pDlgChip->setVisible(visible);
   if (m_pDlgEnemy != nullptr && m_pDlgEnemy->m_hWnd) m_pDlgEnemy->m_hWnd->setVisible(visible);
+  if (m_pDlgEvent != nullptr && m_pDlgEvent->m_hWnd) m_pDlgEvent->m_hWnd->setVisible(visible);
 }
 
 bool DLG_MAIN::PaletteVisible() const {
   if (m_pDlgChip != nullptr) return m_pDlgChip->isVisible();
+  if (m_pDlgEvent != nullptr) return m_pDlgEvent->m_hWnd && m_pDlgEvent->m_hWnd->isVisible();
   return m_pDlgEnemy != nullptr && m_pDlgEnemy->m_hWnd && m_pDlgEnemy->m_hWnd->isVisible();
 }
 

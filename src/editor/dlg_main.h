@@ -13,6 +13,7 @@
 
 class DLG_CHIP;
 class DLG_ENEMY;
+class DLG_EVENT;
 class QLabel;
 class QScrollBar;
 
@@ -63,6 +64,7 @@ class DLG_MAIN : public QWidget {
   bool PaletteVisible() const;
   DLG_CHIP* Chip() const;
   DLG_ENEMY* Enemy() const { return m_pDlgEnemy.get(); }
+  DLG_EVENT* Event() const { return m_pDlgEvent.get(); }
 
   cStageView m_Map;
   QScrollBar* m_pScrollH;
@@ -79,4 +81,5 @@ class DLG_MAIN : public QWidget {
   QSize m_Size;
   QPointer<DLG_CHIP> m_pDlgChip;
   std::unique_ptr<DLG_ENEMY> m_pDlgEnemy;
+  std::unique_ptr<DLG_EVENT> m_pDlgEvent;
 };

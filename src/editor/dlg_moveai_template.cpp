@@ -1,6 +1,7 @@
 #include "editor/dlg_moveai_template.h"
 
 #include "database/move_ai_templates.h"
+#include "toolkit/list_order.h"
 
 DLG_MOVEAITEMPLATE::DLG_MOVEAITEMPLATE(VECTOR_CLASS<cMoveAITemplate>& templates, bool newMode, QWidget* parent)
     : DLG_CLASS(parent, "移動AIテンプレート"), m_vecTemplates(templates), m_bNewMode(newMode) {
@@ -32,17 +33,7 @@ bool DLG_MOVEAITEMPLATE::OnOk() {
   return true;
 }
 
-void DLG_MOVEAITEMPLATE::OnFormCommand(unsigned id, unsigned) {
-  switch (id) {
-    case kIdUp: m_List.MoveRow(-1); break;
-    case kIdDown: m_List.MoveRow(1); break;
-    case kIdDelete:
-      m_List.Delete(-1, 0);
-      UpdateAllExcept(m_List);
-      break;
-    default: break;
-  }
-}
+void DLG_MOVEAITEMPLATE::OnFormCommand(unsigned id, unsigned) { OrderButtonCommand(*this, m_List, {kIdUp, kIdDown, kIdDelete}, id); }
 
 int RunMoveAITemplates(VECTOR_CLASS<cMoveAITemplate>& templates, bool newMode, QWidget* parent) {
   DLG_MOVEAITEMPLATE form(templates, newMode, parent);

@@ -6,6 +6,7 @@
 #include "editor/dlg_endcond.h"
 #include "editor/dlg_enemy.h"
 #include "editor/dlg_enemy_set.h"
+#include "editor/dlg_event.h"
 #include "editor/dlg_grouppos.h"
 #include "editor/dlg_grouppos_set.h"
 #include "editor/dlg_moveai.h"
@@ -19,6 +20,9 @@
 #include "forms/database/sense_form.h"
 #include "forms/event/event_act_form_base.h"
 #include "forms/database/slot_forms.h"
+#include "forms/event/dlg_event_set.h"
+#include "forms/event/dlg_eventact.h"
+#include "forms/event/dlg_eventactplt.h"
 #include "forms/graphic_chooser.h"
 #include "forms/input_forms.h"
 #include "kernel/serial_file.h"
@@ -100,6 +104,49 @@ std::vector<cFormCatalogEntry> WithEventActForms(std::vector<cFormCatalogEntry> 
   return all;
 }
 
+// An event of two pages whose first page runs several actions, a new action under the
+// chooser, and a palette of two entries, for the event forms.
+cEvent& CatalogEvent() {
+  static cEvent event = [] {
+    cEvent e;
+    e.m_strName = CP932_TEXT("宝箱");
+    cEventPage& page = e.m_vecPage[0];
+    page.m_nGraphic = 3;
+    page.m_bTurnCondA = 1;
+    page.m_nTurnAStep = 2;
+    for (int kind : {EACT_MESSAGE, EACT_WAIT, EACT_COMMONVAR, EACT_MONEY, EACT_STAGECLEAR}) {
+      cEventAct act;
+      act.m_nKind = kind;
+      SetEventActDefaults(act);
+      page.m_vecAct.push_back(act);
+    }
+    page.m_vecAct[0].m_vecStr[0] = CP932_TEXT("宝箱を開けた！");
+    e.m_vecPage.emplace_back();
+    return e;
+  }();
+  return event;
+}
+cEventAct g_CatalogAct;
+VECTOR_CLASS<cEventActPlt>& CatalogActPalette() {
+  static VECTOR_CLASS<cEventActPlt> palette = [] {
+    VECTOR_CLASS<cEventActPlt> p(2);
+    p[0].m_strName = CP932_TEXT("会話");
+    p[0].m_vecAct = CatalogEvent().m_vecPage[0].m_vecAct;
+    p[1].m_strName = CP932_TEXT("待つ");
+    return p;
+  }();
+  return palette;
+}
+template <class T>
+std::vector<unsigned char> VectorBytes(VECTOR_CLASS<T>& rows) {
+  std::vector<unsigned char> bytes;
+  for (T& row : rows) {
+    const std::vector<unsigned char> one = SavedBytes(row);
+    bytes.insert(bytes.end(), one.begin(), one.end());
+  }
+  return bytes;
+}
+
 template <class Form, class... Args>
 std::function<std::unique_ptr<DLG_CLASS>()> Make(Args... args) {
   return [=] { return std::unique_ptr<DLG_CLASS>(new Form(args...)); };
@@ -131,6 +178,14 @@ const std::vector<cFormCatalogEntry>& FormCatalog() {
       {"DLG_ENEMY", [] { return std::make_unique<DLG_ENEMY>(nullptr, nullptr, nullptr); }, [] { return SavedBytes(g_Stage); }},
       {"DLG_ENEMY_SET", [] { return std::make_unique<DLG_ENEMY_SET>(CatalogEnemy(), nullptr); },
        [] { return SavedBytes(CatalogEnemy()); }},
+      {"DLG_EVENT", [] { return std::make_unique<DLG_EVENT>(nullptr, nullptr, nullptr); },
+       [] { return VectorBytes(g_vecEventPlt); }},
+      {"DLG_EVENT_SET", [] { return std::make_unique<DLG_EVENT_SET>(CatalogEvent(), eEventTarget::kStage, nullptr); },
+       [] { return SavedBytes(CatalogEvent()); }},
+      {"DLG_EVENTACT", [] { return std::make_unique<DLG_EVENTACT>(g_CatalogAct, true, false, nullptr, nullptr); },
+       [] { return SavedBytes(g_CatalogAct); }},
+      {"DLG_EVENTACTPLT", [] { return std::make_unique<DLG_EVENTACTPLT>(CatalogActPalette(), 0, nullptr); },
+       [] { return VectorBytes(CatalogActPalette()); }},
       {"DLG_MOVEAI", [] { return std::make_unique<DLG_MOVEAI>(g_CatalogRule, nullptr); },
        [] { return SavedBytes(g_CatalogRule); }},
       {"DLG_MOVEAITEMPLATE",

@@ -13,12 +13,14 @@
 #include "editor/command_bar.h"
 #include "editor/dlg_chip.h"
 #include "editor/dlg_enemy.h"
+#include "editor/dlg_event.h"
 #include "editor/dlg_grouppos.h"
 #include "editor/dlg_main.h"
 #include "editor/dlg_stage.h"
 #include "editor/dlg_testplay.h"
 #include "editor/map_scroll.h"
 #include "forms/database/database_sheet.h"
+#include "forms/event/dlg_event_set.h"
 #include "platform/cp932.h"
 #include "platform/diagnostics.h"
 #include "project/project_globals.h"
@@ -100,10 +102,18 @@ void VIEW_MAIN::ShowPalette(int palette) {
   if (m_pDlg != nullptr) m_pDlg->ShowPalette(palette);
 }
 
-// The event form comes with its palette; until then the shortcut refuses.
-bool VIEW_MAIN::EditEvent(cEvent&, bool) {
-  QApplication::beep();
-  return false;
+// The form makes the stage's undo step on OK, before the event takes the edits.
+bool VIEW_MAIN::EditEvent(cEvent& event, bool) { return RunEventSet(event, eEventTarget::kStage, this) == 1; }
+
+// The project's start event, saved by the form's OK.
+void VIEW_MAIN::EditStartEvent() {
+  cEditState& es = g_EditState;
+  es.m_bStartEvent = 1;
+  es.m_bEditPlaced = 1;
+  es.m_pEditEvent = &g_StartEvent;
+  RunEventSet(g_StartEvent, eEventTarget::kStart, this);
+  es.m_pEditEvent = nullptr;
+  es.m_bStartEvent = 0;
 }
 
 void VIEW_MAIN::SelectEnemyRow(int row) {
@@ -157,6 +167,7 @@ bool VIEW_MAIN::RunForm(int command) {
         if (m_pDlg != nullptr && m_pDlg->Chip() != nullptr) m_pDlg->Chip()->Relayout();
       }
       return true;
+    case IDM_START_EVENT: EditStartEvent(); return true;
     case IDM_POSITION_GROUPS:
       if (RunPositionGroups(this) == 1) PositionGroupsConfirmed();
       return true;
@@ -192,7 +203,12 @@ int VIEW_MAIN::PopupEventMenu(const bool* enabled) {
     action->setEnabled(enabled[i]);
   }
   QAction* chosen = menu.exec(QCursor::pos());
-  return chosen != nullptr ? chosen->data().toInt() : 0;
+  const int id = chosen != nullptr ? chosen->data().toInt() : 0;
+  // A copy or cut of an event on the map also reaches the event palette's own clipboard.
+  const cEvent* event = g_EditState.m_pEditEvent;
+  if ((id == IDM_EVENT_COPY || id == IDM_EVENT_CUT) && event != nullptr && m_pDlg != nullptr && m_pDlg->Event() != nullptr)
+    m_pDlg->Event()->m_Palette.m_List.m_vecClip = {*event};
+  return id;
 }
 
 void VIEW_MAIN::StorePlace() {

@@ -51,6 +51,7 @@ class VIEW_MAIN : public QMainWindow, public cMapEditHost {
 
  private:
   void StorePlace();
+  void EditStartEvent();
   bool OpenDatabase();
   void HidePalettes();
   void ShowPalettes();

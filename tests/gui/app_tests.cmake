@@ -7,6 +7,7 @@ target_sources(ortalune_gui_tests PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/database_sheet_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/enemy_forms_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/event_act_forms_test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/event_forms_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/main_window_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/stage_editor_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/stage_forms_test.cpp

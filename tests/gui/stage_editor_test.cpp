@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QMenu>
+#include <QTimer>
 #include <QTest>
 #include <QToolButton>
 #include <filesystem>
@@ -17,14 +19,19 @@
 #include "editor/dlg_chip.h"
 #include "editor/dlg_enemy.h"
 #include "editor/dlg_enemy_set.h"
+#include "editor/dlg_event.h"
 #include "editor/dlg_main.h"
 #include "editor/editor_shell.h"
 #include "editor/view_main.h"
+#include "forms/event/dlg_event_set.h"
+#include "forms/event/dlg_eventact.h"
 #include "gui/app_test_support.h"
 #include "gui/stage_form_support.h"
 #include "platform/cp932.h"
 #include "project/project_globals.h"
 #include "stage/edit_state.h"
+#include "stage/event_menu.h"
+#include "stage/map_edit.h"
 
 namespace fs = std::filesystem;
 
@@ -182,6 +189,89 @@ TEST_F(StageEditorTest, AnEnemyInsertedInItsPaletteIsDrawnWithThePenAndItsRightD
   QCoreApplication::processEvents();
   EXPECT_EQ(g_EditState.m_nPalette, PALETTE_EVENT);
   EXPECT_EQ(m_view->Dlg()->Enemy(), nullptr);
+}
+
+// The author's path: a template put on the map, opened again, given a page with a wait,
+// and the stage saved with it.
+TEST_F(StageEditorTest, AnEventPutWithThePenIsEditedIntoTwoPagesWithAWaitAndSavedWithTheStage) {
+  Menu(IDM_PALETTE_EVENT)->trigger();
+  DLG_EVENT* palette = m_view->Dlg()->Event();
+  ASSERT_NE(palette, nullptr);
+  ASSERT_GE(g_vecEventPlt.Count(), 1);
+  EXPECT_EQ(g_EditState.m_nSelected, 0) << "the first template is the pen's";
+  g_EditConfig.m_bEditIfPlaced = 1;
+  g_EditConfig.m_bEditBeforePut = 0;
+  g_Stage.m_vecEvent.clear();
+
+  m_view->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(m_view));
+  QWidget* map = m_view->Dlg()->m_Map.m_hWnd;
+  const QPoint cell(2 * 32 + 5, 3 * 32 + 5);
+  QTest::mouseClick(map, Qt::LeftButton, {}, cell);
+  ASSERT_EQ(g_Stage.m_vecEvent.Count(), 1);
+
+  bool opened = false;
+  DuringModal([&](DLG_CLASS& form) {
+    opened = DLG_EVENT_SET::Live() == &form;
+    Click(form, DLG_EVENT_SET::kIdPageInsert);
+    DuringModal([](DLG_CLASS& chooser) {
+      DuringModal([](DLG_CLASS& wait) { Click(wait, kIdOk); });
+      Click(chooser, DLG_EVENTACT::ButtonOf(EACT_WAIT));
+    });
+    Click(form, DLG_EVENT_SET::kIdActInsert);
+    Click(form, kIdOk);
+  });
+  QTest::mouseClick(map, Qt::LeftButton, {}, cell);  // placed already: the form opens on it
+  EXPECT_TRUE(opened);
+  EXPECT_EQ(g_Stage.m_vecEvent.Count(), 1);
+
+  g_EditState.m_strStagePath = "data\\stg\\Authored.stg2";
+  fs::create_directories("data/stg");
+  Menu(IDM_SAVE)->trigger();
+  cStage read;
+  ASSERT_TRUE(read.LoadFile(g_EditState.m_strStagePath.c_str()));
+  ASSERT_EQ(read.m_vecEvent.Count(), 1);
+  const cEvent& event = read.m_vecEvent[0];
+  EXPECT_EQ(std::make_pair(event.m_nX, event.m_nY), std::make_pair(2, 3));
+  ASSERT_EQ(event.m_vecPage.Count(), 2);
+  ASSERT_EQ(event.m_vecPage[0].m_vecAct.Count(), 1);
+  EXPECT_EQ(event.m_vecPage[0].m_vecAct[0].m_nKind, EACT_WAIT);
+  EXPECT_EQ(event.m_vecPage[0].m_vecAct[0].m_vecInt, VECTOR_CLASS<std::int32_t>{10}) << "the wait's default";
+  Undo();
+  EXPECT_EQ(g_Stage.m_vecEvent[0].m_vecPage.Count(), 1) << "the form's OK is one undo step";
+
+  // Copied on the map, the event pastes into the palette as a template.
+  m_view->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(m_view));
+  QTimer::singleShot(0, [] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (QAction* a : menu->actions())
+      if (a->data().toInt() == IDM_EVENT_COPY) menu->setActiveAction(a);
+    QTest::keyClick(menu, Qt::Key_Return);
+  });
+  QTest::mousePress(map, Qt::RightButton, {}, cell);
+  QTest::mouseRelease(map, Qt::RightButton, {}, cell);
+  EXPECT_EQ(g_EditState.m_bEventClip, 1);
+  const int templates = g_vecEventPlt.Count();
+  palette->m_Palette.m_List.SelectOnly(templates, 0);
+  palette->SendCommand(40032, 0);  // Ctrl+V at the blank row
+  ASSERT_EQ(g_vecEventPlt.Count(), templates + 1);
+  EXPECT_EQ(g_vecEventPlt.back().m_vecPage.Count(), 1);
+}
+
+TEST_F(StageEditorTest, TheStartEventOpensFromTheMenuAndItsOkSavesItsFile) {
+  std::filesystem::remove("data/database/StartEvent.dat");
+  bool opened = false;
+  DuringModal([&](DLG_CLASS& form) {
+    opened = DLG_EVENT_SET::Live() == &form && !form.GetDlgItem(DLG_EVENT_SET::kIdPageList)->isEnabled();
+    Click(form, kIdOk);
+  });
+  Menu(IDM_START_EVENT)->trigger();
+  EXPECT_TRUE(opened);
+  EXPECT_TRUE(fs::exists("data/database/StartEvent.dat"));
+  EXPECT_EQ(g_EditState.m_pEditEvent, nullptr);
+  EXPECT_FALSE(Menu(IDM_UNDO)->isEnabled()) << "no undo step for the start event";
 }
 
 TEST_F(StageEditorTest, ThePalettesLeaveTheirPlacesForTheNextStart) {
