@@ -8,6 +8,8 @@ target_sources(ortalune_gui_tests PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/enemy_forms_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/main_window_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/stage_editor_test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/system_pages_test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/anim_pages_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/stage_forms_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/testplay_form_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/test_play_run_test.cpp
