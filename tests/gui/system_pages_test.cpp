@@ -12,6 +12,7 @@
 #include <map>
 #include <set>
 
+#include "forms/database/db_small_pages.h"
 #include "forms/database/db_system_pages.h"
 #include "gui/database_sheet_fixture.h"
 #include "gui/form_probe.h"
@@ -144,6 +145,23 @@ TEST_F(SystemPagesTest, CancelAfterEditsOnAllTenPagesLeavesTheRecordAndApplyWrit
   EditEveryPage(expected);
   SheetButton("適用")->click();
   EXPECT_EQ(FileBytes(kSystemFile), SavedBytes(expected));
+}
+
+TEST_F(SystemPagesTest, ARenamedPartyVariableReachesTheComboOfPageOneOnlyAfterTheApply) {
+  const int row = g_System.m_nScoutVal;
+  ASSERT_GT(row, 0);
+  auto* combo = static_cast<QComboBox*>(System<DLG_DBSYSTEM>(1)->GetDlgItem(DLG_DBSYSTEM::kScoutVal));
+  const QString before = combo->currentText();
+  auto* vars = ShowPage<DLG_DB_PTVAL>(6);
+  Click(ListOf(*vars, DLG_DB_PTVAL::kList), row - 1);
+  TypeInto(*vars, DLG_DB_PTVAL::kName, "Z");
+  System<DLG_DBSYSTEM>(1);
+  EXPECT_EQ(combo->currentText(), before);
+  SheetButton("適用")->click();
+  ShowPage<DLG_DB_PTVAL>(6);
+  System<DLG_DBSYSTEM>(1);
+  EXPECT_EQ(combo->currentText(), before + "Z");
+  EXPECT_EQ(g_System.m_nScoutVal, row);
 }
 
 TEST_F(SystemPagesTest, EveryControlOfTheTenPagesIsBoundAndNamed) {
