@@ -71,7 +71,7 @@ DLG_DBSYSTEM_2::DLG_DBSYSTEM_2() : cSystemPage("システム2") {
   F.EditVal(NewId(), "） × （１＋難易度×", SYSTEM_FIELD(m_dExpDifficulty), -100.0, 100.0, 0.1);
   F.Text("）").Row();
   F.EditVal(NewId(), "さらに敵のトドメを刺したら、獲得EX×", SYSTEM_FIELD(m_dExpKill), 0.0, 100.0, 0.1).Row();
-  Range("獲得EXの下限", SYSTEM_FIELD(m_nExpMin), SYSTEM_FIELD(m_nExpMax), 0, 9999);
+  Range("獲得EXの下限", SYSTEM_FIELD(m_nExpMin), SYSTEM_FIELD(m_nExpMax), 0, 9999, "上限");
   F.Row();
   F.Check(NewId(), "敵を倒したら再行動できる", SYSTEM_FIELD(m_bActAgain)).Span(4).Row();
   F.Check(NewId(), "全ての味方の行動が終わったら自動的にターンを終了する", SYSTEM_FIELD(m_bAutoTurnEnd)).Span(4).Row();

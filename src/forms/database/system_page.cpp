@@ -96,8 +96,9 @@ void cSystemPage::NameCombo(unsigned id, const char* label, int* field, eSystemN
   m_vecNameCombo.emplace_back(id, names);
 }
 
-void cSystemPage::Range(const char* label, int* low, int* high, int min, int max) {
+void cSystemPage::Range(const char* label, int* low, int* high, int min, int max, const char* highLabel) {
   const std::string text = AccessibleText(label);
   Table().EditVal(NewId(), label, low, min, max).Named((text + " 下限").c_str());
-  Table().EditVal(NewId(), "～", high, min, max).Named((text + " 上限").c_str());
+  const std::string highName = std::string(highLabel) == "～" ? text + " 上限" : AccessibleText(highLabel);
+  Table().EditVal(NewId(), highLabel, high, min, max).Named(highName.c_str());
 }

@@ -72,8 +72,8 @@ class cSystemPage : public cDatabasePage {
   // A value of each side of a battle, the attacker's and the defender's, with the ids
   // `firstId` and the next.
   void TwoSides(const char* label, int (&values)[2], int min, int max, unsigned firstId, std::function<bool()> enabled);
-  // "label lower ～ upper" in one row.
-  void Range(const char* label, int* low, int* high, int min, int max);
+  // "label lower ～ upper" in one row, or with the upper bound's own label.
+  void Range(const char* label, int* low, int* high, int min, int max, const char* highLabel = "～");
   // A choice among the rows of another table, from its row 0, refilled when stale.
   void NameCombo(unsigned id, const char* label, int* field, eSystemNames names);
 
