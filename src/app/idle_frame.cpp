@@ -28,6 +28,10 @@ bool IdleFramesWantedNow() {
   return IdleFramesWanted(preview, g_bAppActive, bTestPlay);
 }
 
+void AnimatedPreviewChanged() {
+  if (g_IdleClients.reconsider != nullptr) g_IdleClients.reconsider();
+}
+
 bool IdleFrame() {
   if (g_pDlgMain == nullptr) return true;
   if (g_bFocusRequest) {

@@ -31,12 +31,17 @@ struct cIdleClients {
   bool (*animatedPreviewShown)() = nullptr;  // a sheet page or skill sheet with a preview is open
   void (*focusMain)() = nullptr;             // gives the focus back to the editing dialog
   void (*giveFrames)() = nullptr;            // one frame to every open dialog and sheet
+  void (*reconsider)() = nullptr;            // starts or stops the frames at once
 };
 extern cIdleClients g_IdleClients;
 extern cFrameCounter g_FrameCounter;
 
 // Whether frames are wanted now, from the frame's state and the installed clients.
 bool IdleFramesWantedNow();
+
+// A form's animated preview came to the screen: the frames start without waiting.
+// One that leaves needs no call, since the next frame finds it gone.
+void AnimatedPreviewChanged();
 
 // One frame: the focus request, the frame count, the frames of the dialogs. Nothing
 // before the main dialog exists. Always true.

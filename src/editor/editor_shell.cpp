@@ -9,6 +9,7 @@
 #include "editor/dlg_battle_mode.h"
 #include "editor/dlg_main.h"
 #include "editor/idle_timer.h"
+#include "forms/database/database_sheet.h"
 #include "editor/screenshot.h"
 #include "editor/test_play_watch.h"
 #include "editor/view_main.h"
@@ -38,7 +39,7 @@ cEditorShell::cEditorShell() = default;
 
 cEditorShell::~cEditorShell() {
   g_pDlgMain = nullptr;
-  g_IdleClients.focusMain = nullptr;
+  g_IdleClients = cIdleClients{};
   SetMainWindowHandlers(nullptr, nullptr);
   SetActiveWindowForBoxes(nullptr);
 }
@@ -52,6 +53,9 @@ int cEditorShell::CreateMainWindow() {
   SetMainWindowHandlers(PostCloseOfMain, DestroyMain);
   SetActiveWindowForBoxes(m_pView.get());
   g_IdleClients.focusMain = FocusMain;
+  g_IdleClients.animatedPreviewShown = DatabasePreviewShown;
+  g_IdleClients.giveFrames = DatabasePreviewFrame;
+  g_IdleClients.reconsider = ReconsiderIdleFrames;
   m_pIdle = std::make_unique<cIdleTimer>();
   m_pIdle->Reconsider();
   m_pTestPlay = std::make_unique<cTestPlayWatch>();

@@ -13,6 +13,7 @@
 #include "editor/dlg_moveai_template.h"
 #include "editor/dlg_stage.h"
 #include "editor/dlg_testplay.h"
+#include "forms/database/db_anim_pages.h"
 #include "forms/database/db_compati_page.h"
 #include "forms/database/db_help_page.h"
 #include "forms/database/battle_ai_forms.h"
@@ -23,6 +24,7 @@
 #include "forms/event/dlg_event_set.h"
 #include "forms/event/dlg_eventact.h"
 #include "forms/event/dlg_eventactplt.h"
+#include "forms/database/db_system_pages.h"
 #include "forms/graphic_chooser.h"
 #include "forms/input_forms.h"
 #include "kernel/serial_file.h"
@@ -56,6 +58,9 @@ VECTOR_CLASS<std::int32_t> g_vecSense{3, 0, 7};
 cLearnSkill g_LearnSkill;
 cBattleAI g_BattleAI;
 cBattleAICond g_BattleAICond;
+cElem g_Elem;
+cCharaAnim g_CharaFrame;
+cEffectAnim g_EffectFrame;
 
 std::vector<unsigned char> SenseBytes() {
   std::vector<unsigned char> bytes;
@@ -202,6 +207,11 @@ const std::vector<cFormCatalogEntry>& FormCatalog() {
       {"DLG_BATTLEAI", [] { return std::make_unique<DLG_BATTLEAI>(g_BattleAI); }, [] { return SavedBytes(g_BattleAI); }},
       {"DLG_BATTLEAI_COND", [] { return std::make_unique<DLG_BATTLEAI_COND>(g_BattleAICond); },
        [] { return SavedBytes(g_BattleAICond); }},
+      {"DLG_ELEM", [] { return std::make_unique<DLG_ELEM>(g_Elem); }, [] { return SavedBytes(g_Elem); }},
+      {"DLG_DB_CHARAANIM_ANIM", [] { return std::make_unique<DLG_DB_CHARAANIM_ANIM>(g_CharaFrame, 1); },
+       [] { return SavedBytes(g_CharaFrame); }},
+      {"DLG_DB_EFFECTANIM_ANIM", [] { return std::make_unique<DLG_DB_EFFECTANIM_ANIM>(g_EffectFrame, 1); },
+       [] { return SavedBytes(g_EffectFrame); }},
   };
   static const std::vector<cFormCatalogEntry> withActions = WithEventActForms(catalog);
   return withActions;

@@ -10,6 +10,8 @@ target_sources(ortalune_gui_tests PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/event_forms_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/main_window_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/stage_editor_test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/system_pages_test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/anim_pages_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/stage_forms_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/testplay_form_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/test_play_run_test.cpp
@@ -24,3 +26,9 @@ add_dependencies(ortalune_gui_tests standin-game)
 add_test(NAME EditorIdleCpu
   COMMAND ${CMAKE_CURRENT_LIST_DIR}/app_idle_cpu.sh $<TARGET_FILE:ortalune> ${CMAKE_BINARY_DIR}/share/ortalune/template 10)
 set_tests_properties(EditorIdleCpu PROPERTIES LABELS slow TIMEOUT 60)
+
+# The animated preview at 20 frames a second, measured over ten seconds, and a page
+# without one: the processor time of the thread that runs the windows.
+add_test(NAME AnimPreviewIdleCpu COMMAND ortalune_gui_tests --gtest_filter=*IdleCpuTest.*)
+set_tests_properties(AnimPreviewIdleCpu PROPERTIES LABELS slow TIMEOUT 120
+  ENVIRONMENT "QT_QPA_PLATFORM=offscreen;SDL_AUDIODRIVER=dummy")

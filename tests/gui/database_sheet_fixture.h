@@ -48,11 +48,14 @@ class DatabaseSheetTest : public TemplateProjectTest {
   static QListWidget* ListOf(DLG_CLASS& form, unsigned id) { return static_cast<QListWidget*>(form.GetDlgItem(id)); }
   // Selects row `row` alone, as a click does.
   static void Click(QListWidget* list, int row) { list->setCurrentRow(row, QItemSelectionModel::ClearAndSelect); }
-  // The page of row `row`, brought to the front.
+  // The page of row `row`, brought to the front. Its tab is found by the page: a row
+  // the program has no page for yet has no tab.
   template <class Page>
   Page* ShowPage(int row) {
-    m_pSheet->SetCurrentPage(row);
-    return dynamic_cast<Page*>(m_pSheet->PageOfRow(row));
+    cDatabasePage* page = m_pSheet->PageOfRow(row);
+    for (int tab = 0; tab < m_pSheet->m_vecPage.Count(); ++tab)
+      if (m_pSheet->m_vecPage[tab] == page) m_pSheet->SetCurrentPage(tab);
+    return dynamic_cast<Page*>(page);
   }
   // Types `keys` at the end of the text edit `id` of `form`.
   static void TypeInto(DLG_CLASS& form, unsigned id, const char* keys) {

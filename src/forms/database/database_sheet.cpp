@@ -2,12 +2,14 @@
 
 #include <vector>
 
+#include "forms/database/db_anim_pages.h"
 #include "forms/database/db_class_page.h"
 #include "forms/database/db_compati_page.h"
 #include "forms/database/db_help_page.h"
 #include "forms/database/db_land_page.h"
 #include "forms/database/db_media_pages.h"
 #include "forms/database/db_small_pages.h"
+#include "forms/database/db_system_pages.h"
 #include "forms/database/db_enemy_page.h"
 #include "forms/database/db_friend_page.h"
 #include "platform/cp932.h"
@@ -34,24 +36,24 @@ constexpr cDatabasePageRow kPages[kDatabasePageCount] = {
     {"相性タイプ", 0, Make<DLG_DBSKILLTYPE>},
     {"地形", 2, Make<DLG_DBLAND>},
     {"パーティー変数", 0, Make<DLG_DB_PTVAL>},
-    {"キャラアニメ", 0, nullptr},
-    {"エフェクトアニメ", 0, nullptr},
+    {"キャラアニメ", 0, Make<DLG_DB_CHARAANIM>},
+    {"エフェクトアニメ", 0, Make<DLG_DB_EFFECTANIM>},
     {"ピクチャー", 0, MakeMedia<DLG_DB_PICTURE, kPicturePage>},
     {"バック", 1, Make<DLG_DB_BACK>},
     {"効果音", 1, MakeMedia<DLG_DB_SOUND, kSoundPage>},
     {"BGM", 1, MakeMedia<DLG_DB_BGM, kBgmPage>},
     {"ヘルプ", 1, Make<DLG_DB_HELP>},
     {"ワールドチップ", 0, Make<DLG_DBWORLDCHIP>},
-    {"システム1", 0, nullptr},
-    {"システム2", 0, nullptr},
-    {"システム3", 0, nullptr},
-    {"システム4", 0, nullptr},
-    {"システム5", 0, nullptr},
-    {"システム6", 0, nullptr},
-    {"システム7", 0, nullptr},
-    {"システム8", 0, nullptr},
-    {"システム9", 0, nullptr},
-    {"システム10", 0, nullptr},
+    {"システム1", 0, Make<DLG_DBSYSTEM>},
+    {"システム2", 0, Make<DLG_DBSYSTEM_2>},
+    {"システム3", 0, Make<DLG_DBSYSTEM_3>},
+    {"システム4", 0, Make<DLG_DBSYSTEM_4>},
+    {"システム5", 0, Make<DLG_DBSYSTEM_5>},
+    {"システム6", 0, Make<DLG_DBSYSTEM_6>},
+    {"システム7", 0, Make<DLG_DBSYSTEM_7>},
+    {"システム8", 0, Make<DLG_DBSYSTEM_8>},
+    {"システム9", 0, Make<DLG_DBSYSTEM_9>},
+    {"システム10", 0, Make<DLG_DBSYSTEM_10>},
 };
 
 constexpr int kCommitOrder[kDatabasePageCount] = {15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 5, 3, 4,
@@ -118,4 +120,19 @@ PROP_DATABASE* OpenDatabaseSheet(QWidget* parent, std::function<void()> onEnd) {
   }
   g_pOpenSheet = sheet;  // the window registry owns it from here
   return sheet;
+}
+
+namespace {
+
+cAnimatedPage* AnimatedPageInFront() {
+  if (g_pOpenSheet == nullptr || !g_pOpenSheet->IsOpen() || !g_pOpenSheet->m_hWnd->isVisible()) return nullptr;
+  return dynamic_cast<cAnimatedPage*>(g_pOpenSheet->CurrentPage());
+}
+
+}  // namespace
+
+bool DatabasePreviewShown() { return AnimatedPageInFront() != nullptr; }
+
+void DatabasePreviewFrame() {
+  if (cAnimatedPage* page = AnimatedPageInFront()) page->OnFrame();
 }

@@ -50,3 +50,8 @@ int SaveAllDatabase(PROP_DATABASE& sheet);
 // Opens the sheet over `parent`; `onEnd` runs when it closes. The sheet, which the
 // window registry owns; null when it is open already.
 PROP_DATABASE* OpenDatabaseSheet(QWidget* parent, std::function<void()> onEnd);
+
+// The idle frame's view of the sheet: whether the page in front shows an animated
+// preview, and one tick of it.
+bool DatabasePreviewShown();
+void DatabasePreviewFrame();

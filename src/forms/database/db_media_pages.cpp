@@ -21,10 +21,11 @@ VECTOR_CLASS<cEdPicture>& TableOf(cEdPicture*) { return g_Database.m_vecPicture;
 VECTOR_CLASS<cEdSound>& TableOf(cEdSound*) { return g_Database.m_vecSound; }
 VECTOR_CLASS<cEdBgm>& TableOf(cEdBgm*) { return g_Database.m_vecBgm; }
 
+}  // namespace
+
 constexpr int kFreeSoundEntry = 4;  // the sound front's entry the forms play through
 
-// Plays the row's file once. An empty path plays nothing and says nothing.
-void PlayFile(const cMediaPageKind& kind, const std::string& path, int volume) {
+void PlayMediaFile(const cMediaPageKind& kind, const std::string& path, int volume) {
   if (path.empty()) return;
   int played;
   if (kind.play == cMediaPageKind::kSound) {
@@ -34,8 +35,6 @@ void PlayFile(const cMediaPageKind& kind, const std::string& path, int volume) {
   }
   if (!played) MesBox(nullptr, CP932_TEXT("読み込み失敗！"), CP932_TEXT("エラー"), MB_OK);
 }
-
-}  // namespace
 
 bool BrowseMediaFile(DLG_CLASS& page, const cMediaPageKind& kind, std::string& stored) {
   std::string native;
@@ -82,7 +81,7 @@ void cMediaPage<R>::OnFormCommand(unsigned id, unsigned code) {
     case kPlay: {
       int volume = 100;
       if constexpr (requires(R r) { r.m_nVolume; }) volume = this->Value(kVolume);
-      PlayFile(m_Kind, this->m_Edit.m_strPath, volume);
+      PlayMediaFile(m_Kind, this->m_Edit.m_strPath, volume);
       break;
     }
     default: break;

@@ -53,3 +53,8 @@ class DLG_DB_BACK : public cTablePage<cEdBack> {
 // "参照" of a page: the file chosen, made relative to the project, into `stored` (CP932,
 // "\"). False when cancelled or when the file has no relative form; `stored` then stays.
 bool BrowseMediaFile(DLG_CLASS& page, const cMediaPageKind& kind, std::string& stored);
+
+// Plays a sound once through the forms' entry of the sound front, or a piece of music
+// at `volume`. An empty path plays nothing and says nothing; a file that cannot be
+// played says "読み込み失敗！".
+void PlayMediaFile(const cMediaPageKind& kind, const std::string& path, int volume);
