@@ -31,6 +31,7 @@ struct cIdleClients {
   bool (*animatedPreviewShown)() = nullptr;  // a sheet page or skill sheet with a preview is open
   void (*focusMain)() = nullptr;             // gives the focus back to the editing dialog
   void (*giveFrames)() = nullptr;            // one frame to every open dialog and sheet
+  void (*previewsChanged)() = nullptr;       // an animated preview came or went
 };
 extern cIdleClients g_IdleClients;
 extern cFrameCounter g_FrameCounter;

@@ -39,6 +39,7 @@ cEditorShell::cEditorShell() = default;
 cEditorShell::~cEditorShell() {
   g_pDlgMain = nullptr;
   g_IdleClients.focusMain = nullptr;
+  g_IdleClients.previewsChanged = nullptr;
   SetMainWindowHandlers(nullptr, nullptr);
   SetActiveWindowForBoxes(nullptr);
 }
@@ -53,6 +54,7 @@ int cEditorShell::CreateMainWindow() {
   SetActiveWindowForBoxes(m_pView.get());
   g_IdleClients.focusMain = FocusMain;
   m_pIdle = std::make_unique<cIdleTimer>();
+  g_IdleClients.previewsChanged = ReconsiderIdleFrames;
   m_pIdle->Reconsider();
   m_pTestPlay = std::make_unique<cTestPlayWatch>();
   // The palette the configuration stored comes up with an open stage.
