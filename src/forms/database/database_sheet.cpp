@@ -7,6 +7,7 @@
 #include "forms/database/db_help_page.h"
 #include "forms/database/db_land_page.h"
 #include "forms/database/db_media_pages.h"
+#include "forms/database/db_skill_list_page.h"
 #include "forms/database/db_small_pages.h"
 #include "forms/database/db_enemy_page.h"
 #include "forms/database/db_friend_page.h"
@@ -30,7 +31,7 @@ constexpr cDatabasePageRow kPages[kDatabasePageCount] = {
     {"クラス", 2, Make<DLG_DBCLASS>},
     {"味方キャラ", 1, Make<DLG_DBFRIEND>},
     {"敵キャラ", 1, Make<DLG_DBENEMY>},
-    {"スキル", 2, nullptr},
+    {"スキル", 2, Make<DLG_DBSKILLLIST>},
     {"相性タイプ", 0, Make<DLG_DBSKILLTYPE>},
     {"地形", 2, Make<DLG_DBLAND>},
     {"パーティー変数", 0, Make<DLG_DB_PTVAL>},
