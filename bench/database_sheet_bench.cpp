@@ -5,6 +5,9 @@
 //   bringing page 1, then page 2,     texts, shown; and that with the copy of the table
 //     to the front for the first time   that a page works on, which it cannot do without
 //   Apply                             SaveAllDatabase alone
+//   moving through the 999 skills     filling the same controls from the same records
+//     of a list in the skill sheet      without the kind table, the preview and the
+//                                       command around it
 //
 // The sheet runs on Qt's offscreen platform.
 
@@ -21,7 +24,11 @@
 
 #include "event/event_names.h"
 #include "forms/database/database_sheet.h"
+#include "forms/database/db_skill_list_page.h"
+#include "forms/database/db_skill_page.h"
 #include "platform/heap_pages.h"
+#include "project/project_files.h"
+#include "project/project_globals.h"
 #include "toolkit/wnd_class.h"
 
 namespace {
@@ -119,12 +126,70 @@ void BM_SaveAllDatabase(benchmark::State& state) {
   }
 }
 
+// Skills that differ from row to row, so that every move changes what the controls
+// show: each kind in turn, and numbers of their own.
+void VarySkills(cSkillList& list) {
+  for (int i = 1; i < list.m_vecSkill.Count(); ++i) {
+    cSkill& s = list.m_vecSkill[i];
+    s.m_nKind = i % kSkillKindCount;
+    s.m_nResourceType = (i / 10) % 2;
+    s.m_nPrice = i * 7;
+    s.m_nEffectValue = i;
+    s.m_nEffect = 1 + i % 127;
+    s.m_bUseBattleQuick = i % 2;
+    for (int k = 0; k < kStatusCount; ++k) s.m_anSubEffectA[k] = s.m_anSubEffectB[k] = i + k;
+  }
+}
+
+// Runs `move` on each row of the skill sheet of the first list, with the row selected
+// in the list as a click leaves it, over sheets opened once.
+PROP_DATABASE* g_pSkillsOwner = nullptr;  // the database sheet under the skill sheet
+
+template <class Move>
+void MoveThroughSkills(benchmark::State& state, Move move) {
+  static DLG_DBSKILL* page = nullptr;
+  if (page == nullptr) {
+    Project();
+    VarySkills(g_vecSkillList[0]);
+    g_pSkillsOwner = OpenDatabaseSheet(nullptr, {});
+    g_pSkillsOwner->SetCurrentPage(3);
+    auto* lists = dynamic_cast<DLG_DBSKILLLIST*>(g_pSkillsOwner->PageOfRow(3));
+    lists->SendCommand(DLG_DBSKILLLIST::kEditSkills, kNotifyClicked);
+    page = lists->SkillSheet()->Page();
+    Settle();
+  }
+  auto* rows = static_cast<QListWidget*>(page->GetDlgItem(DLG_DBSKILL::kList));
+  for (auto _ : state) {
+    for (int row = 0; row < page->m_List.RowCount(); ++row) {
+      rows->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
+      move(*page, row);
+    }
+    Settle();
+  }
+}
+
+// As the user moves: the page's command, with the kind table and the preview.
+void BM_MoveWithRules(benchmark::State& state) {
+  MoveThroughSkills(state, [](DLG_DBSKILL& page, int) { page.SendCommand(DLG_DBSKILL::kList, kNotifySelChange); });
+}
+
+// Each record into the edit record and every control filled from it by the form's
+// plain update.
+void BM_FillWithoutRules(benchmark::State& state) {
+  MoveThroughSkills(state, [](DLG_DBSKILL& page, int row) {
+    page.m_List.Select(row, 1);
+    static_cast<DLG_CLASS&>(page).DLG_CLASS::UpdateAllExcept(DLG_DBSKILL::kList);
+  });
+}
+
 BENCHMARK(BM_PlainList)->Unit(benchmark::kMillisecond)->MinTime(1.0);
 BENCHMARK(BM_CopyAndPlainList)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->MinTime(1.0)->MinWarmUpTime(1.0);
 BENCHMARK(BM_OpenSheet)->Unit(benchmark::kMillisecond)->MinTime(1.0);
 BENCHMARK(BM_ShowPage)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->MinTime(1.0);
 BENCHMARK(BM_Apply)->Unit(benchmark::kMillisecond)->MinTime(2.0);
 BENCHMARK(BM_SaveAllDatabase)->Unit(benchmark::kMillisecond)->MinTime(2.0);
+BENCHMARK(BM_FillWithoutRules)->Unit(benchmark::kMillisecond)->MinTime(2.0);
+BENCHMARK(BM_MoveWithRules)->Unit(benchmark::kMillisecond)->MinTime(2.0);
 
 }  // namespace
 
@@ -151,7 +216,13 @@ int main(int argc, char** argv) {
   }
   if (save > 0)
     std::printf("Apply: %.2f times SaveAllDatabase alone (target: at most 1.3)\n", reporter.Time("BM_Apply/min_time:2.000") / save);
+  const double fill = reporter.Time("BM_FillWithoutRules/min_time:2.000");
+  if (fill > 0)
+    std::printf("Moving through the 999 skills of a list: %.2f times filling the same controls without the rules "
+                "(target: at most 1.3)\n",
+                reporter.Time("BM_MoveWithRules/min_time:2.000") / fill);
   benchmark::Shutdown();
+  if (g_pSkillsOwner != nullptr) CloseSheet(g_pSkillsOwner);
   g_pProject.reset();
   return 0;
 }
