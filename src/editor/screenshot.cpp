@@ -106,7 +106,7 @@ void SaveSkillSheet(PROP_DATABASE& sheet, const std::string& folder) {
   for (const auto& [kind, name] : shots) {
     for (int row = 1; row < page.m_vecWork.Count(); ++row) {
       if (page.m_vecWork[row].m_nKind != kind) continue;
-      static_cast<QListWidget*>(page.GetDlgItem(DLG_DBSKILL::kList))->setCurrentRow(row - 1);
+      static_cast<QListWidget*>(page.GetDlgItem(DLG_DBSKILL::kList))->setCurrentRow(row - 1, QItemSelectionModel::ClearAndSelect);
       page.SendCommand(DLG_DBSKILL::kList, kNotifySelChange);
       Settle(300);
       Save(lists->SkillSheet()->m_hWnd, folder + "/PROP_DBSKILL-" + name + ".png");

@@ -123,6 +123,15 @@ TEST_F(SkillPagesTest, TheSkillSheetDisablesTheDatabaseSheetAndItsCancelLeavesTh
   EXPECT_EQ(DatabaseFiles(), m_Saved);
 }
 
+TEST_F(SkillPagesTest, BothSheetsFitAScreenOf1024By768) {
+  ASSERT_NE(OpenSkills(), nullptr);
+  for (QWidget* sheet : {m_pSheet->m_hWnd.data(), Lists()->SkillSheet()->m_hWnd.data()}) {
+    const QSize least = sheet->minimumSizeHint();
+    EXPECT_LE(least.width(), 1024);
+    EXPECT_LE(least.height(), 768 - 40) << "and room for a title bar";
+  }
+}
+
 TEST_F(SkillPagesTest, ArmourHasTheTargetSelfAndItsFiveUseFlagsCleared) {
   DLG_DBSKILL* page = OpenSkills(kMagicRow);
   ASSERT_NE(page, nullptr);

@@ -56,11 +56,11 @@ struct cEntryIds {
 void EntryButtons(cFormTable& F, const cEntryIds& ids, unsigned slotType = 0) {
   const std::pair<unsigned, const char*> buttons[] = {
       {ids.add, "新規"}, {ids.edit, "編集"}, {ids.clear, "クリア"}, {ids.count, "データ数"}};
-  for (const auto& [id, text] : buttons) {
-    F.Button(id, text);
+  for (int b = 0; b < 4; ++b) {  // two to a row, to keep the column narrow
+    F.Button(buttons[b].first, buttons[b].second);
     if (slotType != 0) F.EnableWhen(slotType, kSlotLimited);
+    if (b % 2 == 1) F.Row();
   }
-  F.Row();
 }
 
 // The command of such a list: "新規" appends, "クリア" clears the selected entries,
@@ -87,25 +87,50 @@ DLG_DBSKILLLIST::DLG_DBSKILLLIST() : cTablePage(g_vecSkillList, "スキル", {0,
   NumberedNames(m_vecMoneyNames, g_Database.m_vecPtVal, 1);
   cFormTable& F = Table();
   F.Column();
-  MainList(kList, "スキルグループ", [](const cSkillList& l) { return l.m_strName; }, 8);
+  MainList(kList, "スキルグループ", [](const cSkillList& l) { return l.m_strName; }, 5);
   F.Button(kEditSkills, "このグループの\nスキルを編集").Span(3).Row();
   F.Text("※スキル編集後はデータベース全体を\n保存しないと編集したスキルが\n保存されません", 3).Row();
   F.List(kCategs, "カテゴリー", m_Categs,
          EntryList<cCateg>(&E.m_vecCateg, [](std::string& out, int, const cCateg& c) { out = c.m_strName; }),
-         kListSecondFixed, 6)
+         kListSecondFixed, 4)
       .LabelAbove()
-      .Span(4)
+      .Span(3)
       .Row();
   EntryButtons(F, {kCategs, kCategNew, kCategEdit, kCategClear, kCategCount});
+  // The confirmations: the check that asks, where there is one, and its two answers.
+  struct cConfirm {
+    const char* title;
+    unsigned check;
+    unsigned text;
+    int* flag;
+    std::array<std::string, kConfirmCount>* texts;
+  };
+  const cConfirm confirms[] = {
+      {"「覚える」", kConfirmLearn, kLearnText, &E.m_bConfirmLearn, &m_Shown.aLearn},
+      {"「売る」", 0, kSellText, nullptr, &m_Shown.aSell},
+      {"「忘れる」", kConfirmForget, kForgetText, &E.m_bConfirmForget, &m_Shown.aForget},
+  };
+  const char* checkLabels[] = {"「覚える」ときに確認する", "", "「忘れる」ときに確認する"};
+  for (int c = 0; c < 3; ++c) {
+    const cConfirm& k = confirms[c];
+    F.Group(k.title);
+    if (k.flag != nullptr) F.Check(k.check, checkLabels[c], k.flag).Span(2).Row();
+    for (int t = 0; t < kConfirmCount; ++t) {
+      F.EditStr(k.text + t, "", &(*k.texts)[t], {.nLimit = 8, .nLineLen = 8, .nMaxLines = 1, .bWide = 1});
+      if (k.flag != nullptr) F.EnableBy(k.check);
+    }
+    F.Row();
+    F.EndGroup();
+  }
 
   F.Column();
   F.EditStr(kName, "名称", &E.m_strName, {.nLimit = 12, .nLineLen = 12, .nMaxLines = 1, .bWide = 1}).Row();
-  F.Combo(kSlotType, "スロットタイプ", &E.m_nSlotType, kSlotTypeLabels).Row();
+  F.Combo(kSlotType, "スロットタイプ", &E.m_nSlotType, kSlotTypeLabels).LabelAbove().Span(2).Row();
   F.List(kSlots, "スロット", m_Slots, EntryList<cSlot>(&E.m_vecSlot, [this](std::string& out, int, const cSlot& s) {
            cSlot shown = s;  // the summary repairs what it reads; the row keeps its own
            out = SummarySlot(shown, m_Edit);
          }),
-         kListThirdFixed, 5)
+         kListThirdFixed, 3)
       .LabelAbove()
       .Span(2)
       .EnableWhen(kSlotType, kSlotLimited)
@@ -149,31 +174,6 @@ DLG_DBSKILLLIST::DLG_DBSKILLLIST() : cTablePage(g_vecSkillList, "スキル", {0,
         .Row();
   }
   F.EndGroup();
-  // The confirmations: the check that asks, where there is one, and its two answers.
-  struct cConfirm {
-    const char* title;
-    unsigned check;
-    unsigned text;
-    int* flag;
-    std::array<std::string, kConfirmCount>* texts;
-  };
-  const cConfirm confirms[] = {
-      {"「覚える」", kConfirmLearn, kLearnText, &E.m_bConfirmLearn, &m_Shown.aLearn},
-      {"「売る」", 0, kSellText, nullptr, &m_Shown.aSell},
-      {"「忘れる」", kConfirmForget, kForgetText, &E.m_bConfirmForget, &m_Shown.aForget},
-  };
-  const char* checkLabels[] = {"「覚える」ときに確認する", "", "「忘れる」ときに確認する"};
-  for (int c = 0; c < 3; ++c) {
-    const cConfirm& k = confirms[c];
-    F.Group(k.title);
-    if (k.flag != nullptr) F.Check(k.check, checkLabels[c], k.flag).Span(2).Row();
-    for (int t = 0; t < kConfirmCount; ++t) {
-      F.EditStr(k.text + t, "", &(*k.texts)[t], {.nLimit = 8, .nLineLen = 8, .nMaxLines = 1, .bWide = 1});
-      if (k.flag != nullptr) F.EnableBy(k.check);
-    }
-    F.Row();
-    F.EndGroup();
-  }
   F.EndColumns();
 }
 
