@@ -184,6 +184,7 @@ void DLG_DBSKILL::OnReady() {
     if (CTRL_CLASS* c = GetCtrl(id)) m_vecGoverned.emplace_back(c, row);
   m_vecShownState.assign(m_vecGoverned.size(), -1);
   Enable(RuleStates());
+  UpdatePreview();
   ReloadPlayer();
   m_Animation.Show();
 }
@@ -246,8 +247,7 @@ void DLG_DBSKILL::ReloadPlayer() {
   const VECTOR_CLASS<cEffectAnimPat>& table = g_Database.m_vecEffectAnimPat;
   if (pattern > 0 && pattern < table.Count()) patterns[0] = AnimPattern(table[pattern].m_vecAnim);
   g_AnimPlayer.Reset(patterns);
-  m_nShownFrame = -1;
-  DrawFrame(g_AnimPlayer.Current());
+  DrawFrame(g_AnimPlayer.Current());  // drawn again only where the first frame differs
 }
 
 void DLG_DBSKILL::DrawFrame(int frame) {
