@@ -5,7 +5,9 @@
 
 #include <QComboBox>
 
+#include "app/idle_frame.h"
 #include "database/skill_csv_exchange.h"
+#include "forms/animated_previews.h"
 #include "forms/database/db_skill_list_page.h"
 #include "forms/database/db_skill_page.h"
 #include "gui/database_sheet_fixture.h"
@@ -130,6 +132,26 @@ TEST_F(SkillPagesTest, BothSheetsFitAScreenOf1024By768) {
     EXPECT_LE(least.width(), 1024);
     EXPECT_LE(least.height(), 768 - 40) << "and room for a title bar";
   }
+}
+
+TEST_F(SkillPagesTest, ThePreviewRunsOnTheIdleFramesWhileTheSkillSheetIsOpen) {
+  DLG_DBSKILL* page = OpenSkills(kMagicRow);
+  ASSERT_NE(page, nullptr);
+  EXPECT_EQ(AnimatedPreviewCount(), 1);
+  ASSERT_NE(g_IdleClients.giveFrames, nullptr);
+  EXPECT_TRUE(g_IdleClients.animatedPreviewShown());
+  // The pattern's frames follow one another; some frame of a second differs.
+  const auto& shown = page->GetCtrl<CTRL_PICTURE_CLASS>(D::kPreview)->m_Surface.m_vecBits;
+  const auto first = shown;
+  bool moved = false;
+  for (int frame = 0; frame < kIdleFramesPerSecond && !moved; ++frame) {
+    g_IdleClients.giveFrames();
+    moved = shown != first;
+  }
+  EXPECT_TRUE(moved);
+  Lists()->SkillSheet()->Cancel();
+  EXPECT_EQ(AnimatedPreviewCount(), 0);
+  EXPECT_FALSE(g_IdleClients.animatedPreviewShown()) << "the idle frames stop with the sheet";
 }
 
 TEST_F(SkillPagesTest, ArmourHasTheTargetSelfAndItsFiveUseFlagsCleared) {
