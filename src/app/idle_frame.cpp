@@ -29,7 +29,7 @@ bool IdleFramesWantedNow() {
 }
 
 void AnimatedPreviewChanged() {
-  if (g_IdleClients.reconsider != nullptr) g_IdleClients.reconsider();
+  if (g_IdleClients.previewsChanged != nullptr) g_IdleClients.previewsChanged();
 }
 
 bool IdleFrame() {

@@ -28,10 +28,10 @@ class cFrameCounter {
 
 // What the frame drives, installed by the window layer; each may be null.
 struct cIdleClients {
-  bool (*animatedPreviewShown)() = nullptr;  // a sheet page or skill sheet with a preview is open
+  bool (*animatedPreviewShown)() = nullptr;  // an animated preview can be seen
   void (*focusMain)() = nullptr;             // gives the focus back to the editing dialog
-  void (*giveFrames)() = nullptr;            // one frame to every open dialog and sheet
-  void (*reconsider)() = nullptr;            // starts or stops the frames at once
+  void (*giveFrames)() = nullptr;            // one frame to every preview that can be seen
+  void (*previewsChanged)() = nullptr;       // an animated preview came or went
 };
 extern cIdleClients g_IdleClients;
 extern cFrameCounter g_FrameCounter;
@@ -39,8 +39,7 @@ extern cFrameCounter g_FrameCounter;
 // Whether frames are wanted now, from the frame's state and the installed clients.
 bool IdleFramesWantedNow();
 
-// A form's animated preview came to the screen: the frames start without waiting.
-// One that leaves needs no call, since the next frame finds it gone.
+// An animated preview came to the screen or left it: the frames start or stop at once.
 void AnimatedPreviewChanged();
 
 // One frame: the focus request, the frame count, the frames of the dialogs. Nothing

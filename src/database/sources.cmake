@@ -25,6 +25,7 @@ target_sources(ortalune_core PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/skill.cpp
   ${CMAKE_CURRENT_LIST_DIR}/skill_acquisition.cpp
   ${CMAKE_CURRENT_LIST_DIR}/skill_kind_rules.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/skill_labels.cpp
   ${CMAKE_CURRENT_LIST_DIR}/skill_list.cpp
   ${CMAKE_CURRENT_LIST_DIR}/csv_text.cpp
   ${CMAKE_CURRENT_LIST_DIR}/csv_file.cpp

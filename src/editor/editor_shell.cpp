@@ -9,6 +9,7 @@
 #include "editor/dlg_battle_mode.h"
 #include "editor/dlg_main.h"
 #include "editor/idle_timer.h"
+#include "forms/animated_previews.h"
 #include "forms/database/database_sheet.h"
 #include "editor/screenshot.h"
 #include "editor/test_play_watch.h"
@@ -53,10 +54,10 @@ int cEditorShell::CreateMainWindow() {
   SetMainWindowHandlers(PostCloseOfMain, DestroyMain);
   SetActiveWindowForBoxes(m_pView.get());
   g_IdleClients.focusMain = FocusMain;
-  g_IdleClients.animatedPreviewShown = DatabasePreviewShown;
-  g_IdleClients.giveFrames = DatabasePreviewFrame;
-  g_IdleClients.reconsider = ReconsiderIdleFrames;
+  g_IdleClients.animatedPreviewShown = AnyAnimatedPreviewLive;
+  g_IdleClients.giveFrames = GiveAnimatedPreviewFrames;
   m_pIdle = std::make_unique<cIdleTimer>();
+  g_IdleClients.previewsChanged = ReconsiderIdleFrames;
   m_pIdle->Reconsider();
   m_pTestPlay = std::make_unique<cTestPlayWatch>();
   // The palette the configuration stored comes up with an open stage.

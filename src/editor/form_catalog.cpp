@@ -14,6 +14,7 @@
 #include "editor/dlg_stage.h"
 #include "editor/dlg_testplay.h"
 #include "forms/database/db_anim_pages.h"
+#include "forms/database/categ_form.h"
 #include "forms/database/db_compati_page.h"
 #include "forms/database/db_help_page.h"
 #include "forms/database/battle_ai_forms.h"
@@ -51,6 +52,7 @@ std::vector<unsigned char> AskedBytes() {
 
 // The records the sub-forms of the database pages edit stand for a page's row.
 cSlot g_Slot;
+cCateg g_Categ;
 cOrgSlotList g_OrgSlot;
 cInfl g_Infl;
 cEdHelpText g_HelpText;
@@ -176,6 +178,7 @@ const std::vector<cFormCatalogEntry>& FormCatalog() {
        AskedBytes},
       {"DLG_SELECTGRAPHIC", [] { return std::make_unique<DLG_SELECTGRAPHIC>(2, &g_nAskedValue, nullptr); }, AskedBytes},
       {"DLG_SLOT", [] { return std::make_unique<DLG_SLOT>(g_Slot, 0); }, [] { return SavedBytes(g_Slot); }},
+      {"DLG_CATEG", [] { return std::make_unique<DLG_CATEG>(g_Categ); }, [] { return SavedBytes(g_Categ); }},
       {"DLG_ORGSLOT", [] { return std::make_unique<DLG_ORGSLOT>(g_OrgSlot, 0); }, [] { return SavedBytes(g_OrgSlot); }},
       {"DLG_INFL", [] { return std::make_unique<DLG_INFL>(g_Infl); }, [] { return SavedBytes(g_Infl); }},
       {"DLG_TEXT", [] { return std::make_unique<DLG_TEXT>(g_HelpText); }, [] { return SavedBytes(g_HelpText); }},

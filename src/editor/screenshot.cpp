@@ -1,6 +1,7 @@
 #include "editor/screenshot.h"
 
 #include <QApplication>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPixmap>
@@ -16,6 +17,9 @@
 #include "app/stage_commands.h"
 #include "editor/form_catalog.h"
 #include "forms/database/database_sheet.h"
+#include "forms/database/db_skill_list_page.h"
+#include "forms/database/db_skill_page.h"
+#include "project/project_globals.h"
 #include "toolkit/dlg_class.h"
 #include "editor/view_main.h"
 
@@ -89,6 +93,29 @@ void EndRun() {
   g_pViewMain->close();
 }
 
+// The skill sheet of the first skill list, on its first magic attack and its first
+// weapon.
+void SaveSkillSheet(PROP_DATABASE& sheet, const std::string& folder) {
+  auto* lists = dynamic_cast<DLG_DBSKILLLIST*>(sheet.PageOfRow(3));
+  if (lists == nullptr || g_vecSkillList.empty()) return;
+  sheet.SetCurrentPage(3);
+  lists->SendCommand(DLG_DBSKILLLIST::kEditSkills, kNotifyClicked);
+  if (lists->SkillSheet() == nullptr) return;
+  DLG_DBSKILL& page = *lists->SkillSheet()->Page();
+  const std::pair<int, const char*> shots[] = {{kSkillMagicAttack, "magic"}, {kSkillPhysicalWeapon, "weapon"}};
+  for (const auto& [kind, name] : shots) {
+    for (int row = 1; row < page.m_vecWork.Count(); ++row) {
+      if (page.m_vecWork[row].m_nKind != kind) continue;
+      static_cast<QListWidget*>(page.GetDlgItem(DLG_DBSKILL::kList))->setCurrentRow(row - 1, QItemSelectionModel::ClearAndSelect);
+      page.SendCommand(DLG_DBSKILL::kList, kNotifySelChange);
+      Settle(300);
+      Save(lists->SkillSheet()->m_hWnd, folder + "/PROP_DBSKILL-" + name + ".png");
+      break;
+    }
+  }
+  lists->SkillSheet()->Cancel();
+}
+
 // Each form of the catalog, shown long enough to be laid out and painted.
 void SaveForms(const std::string& folder) {
   for (const cFormCatalogEntry& entry : FormCatalog()) {
@@ -107,6 +134,7 @@ void SaveForms(const std::string& folder) {
       settle.exec();
       Save(sheet->m_hWnd, folder + "/PROP_DATABASE-" + std::to_string(page) + ".png");
     }
+    SaveSkillSheet(*sheet, folder);
     sheet->Cancel();
   }
 }

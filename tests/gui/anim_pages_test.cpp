@@ -131,10 +131,10 @@ TEST_F(AnimPagesTest, BothTwinsAreBoundAndNamedAndOnlyTheyAnimate) {
   for (int row : {kCharaRow, kEffectRow}) {
     DLG_CLASS* page = ShowPage<DLG_CLASS>(row);
     EXPECT_EQ(ProbeOpenForm(*page), std::vector<std::string>{}) << row;
-    EXPECT_TRUE(DatabasePreviewShown()) << row;
+    EXPECT_TRUE(AnyAnimatedPreviewLive()) << row;
   }
   ShowPage<DLG_CLASS>(kCharaRow + 2);
-  EXPECT_FALSE(DatabasePreviewShown());
+  EXPECT_FALSE(AnyAnimatedPreviewLive());
 }
 
 // User and system time of the main thread, which runs every window and the preview;

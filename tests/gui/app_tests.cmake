@@ -5,6 +5,7 @@ target_sources(ortalune_gui_tests PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/app_start_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/chara_pages_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/database_sheet_test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/skill_pages_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/enemy_forms_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/event_act_forms_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/event_forms_test.cpp

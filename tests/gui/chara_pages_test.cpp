@@ -27,15 +27,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-using Files = std::map<std::string, std::vector<unsigned char>>;
-
-Files DatabaseFiles() {
-  Files files;
-  for (const auto& entry : fs::directory_iterator("data/database"))
-    files[entry.path().filename().string()] = FileBytes(entry.path());
-  return files;
-}
-
 // A vector as its file holds it.
 template <class T>
 std::vector<unsigned char> Saved(VECTOR_CLASS<T> rows) {

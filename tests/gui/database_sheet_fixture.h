@@ -13,10 +13,22 @@
 #include <QTimer>
 #include <filesystem>
 #include <functional>
+#include <map>
+#include <string>
+#include <vector>
 
 #include "forms/database/database_sheet.h"
 #include "forms/database/db_class_page.h"
 #include "gui/app_test_support.h"
+
+// Every file of data/database by its name, with its bytes as they stand.
+using Files = std::map<std::string, std::vector<unsigned char>>;
+inline Files DatabaseFiles() {
+  Files files;
+  for (const auto& entry : std::filesystem::directory_iterator("data/database"))
+    files[entry.path().filename().string()] = FileBytes(entry.path());
+  return files;
+}
 
 class DatabaseSheetTest : public TemplateProjectTest {
  protected:

@@ -8,6 +8,7 @@
 #include "forms/database/db_help_page.h"
 #include "forms/database/db_land_page.h"
 #include "forms/database/db_media_pages.h"
+#include "forms/database/db_skill_list_page.h"
 #include "forms/database/db_small_pages.h"
 #include "forms/database/db_system_pages.h"
 #include "forms/database/db_enemy_page.h"
@@ -32,7 +33,7 @@ constexpr cDatabasePageRow kPages[kDatabasePageCount] = {
     {"クラス", 2, Make<DLG_DBCLASS>},
     {"味方キャラ", 1, Make<DLG_DBFRIEND>},
     {"敵キャラ", 1, Make<DLG_DBENEMY>},
-    {"スキル", 2, nullptr},
+    {"スキル", 2, Make<DLG_DBSKILLLIST>},
     {"相性タイプ", 0, Make<DLG_DBSKILLTYPE>},
     {"地形", 2, Make<DLG_DBLAND>},
     {"パーティー変数", 0, Make<DLG_DB_PTVAL>},
@@ -122,17 +123,7 @@ PROP_DATABASE* OpenDatabaseSheet(QWidget* parent, std::function<void()> onEnd) {
   return sheet;
 }
 
-namespace {
-
-cAnimatedPage* AnimatedPageInFront() {
-  if (g_pOpenSheet == nullptr || !g_pOpenSheet->IsOpen() || !g_pOpenSheet->m_hWnd->isVisible()) return nullptr;
-  return dynamic_cast<cAnimatedPage*>(g_pOpenSheet->CurrentPage());
-}
-
-}  // namespace
-
-bool DatabasePreviewShown() { return AnimatedPageInFront() != nullptr; }
-
-void DatabasePreviewFrame() {
-  if (cAnimatedPage* page = AnimatedPageInFront()) page->OnFrame();
+bool DatabasePageInFront(const DLG_CLASS* page) {
+  return g_pOpenSheet != nullptr && g_pOpenSheet->IsOpen() && g_pOpenSheet->m_hWnd->isVisible() &&
+         g_pOpenSheet->CurrentPage() == page;
 }

@@ -51,7 +51,5 @@ int SaveAllDatabase(PROP_DATABASE& sheet);
 // window registry owns; null when it is open already.
 PROP_DATABASE* OpenDatabaseSheet(QWidget* parent, std::function<void()> onEnd);
 
-// The idle frame's view of the sheet: whether the page in front shows an animated
-// preview, and one tick of it.
-bool DatabasePreviewShown();
-void DatabasePreviewFrame();
+// Whether `page` is the page in front of the open sheet, which is on the screen.
+bool DatabasePageInFront(const DLG_CLASS* page);

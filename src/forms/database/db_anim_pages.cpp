@@ -80,7 +80,7 @@ void cAnimPage<Pat>::OnReady() {
   m_Frames.OnReady();
   UpdatePlayer();
   DrawPreview(false);
-  AnimatedPreviewChanged();
+  m_Animation.Show();
 }
 
 // The player may hold the pattern of the other page or of the skill sheet.

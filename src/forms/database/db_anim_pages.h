@@ -6,6 +6,8 @@
 // starts the animation over, and the idle frame steps it while the page is in front.
 
 #include "database/anim.h"
+#include "forms/animated_previews.h"
+#include "forms/database/database_sheet.h"
 #include "forms/database/sub_form_list.h"
 #include "forms/table_page.h"
 #include "toolkit/record_form.h"
@@ -33,13 +35,6 @@ inline void DrawEffectCell(cSurface& surface, int x, int y, int n, int frame) {
   DrawAnimCell(kEffectAnimPage, surface, x, y, n, frame);
 }
 
-// A page whose preview the idle frame steps while the page is in front.
-class cAnimatedPage {
- public:
-  virtual ~cAnimatedPage() = default;
-  virtual void OnFrame() = 0;
-};
-
 // DLG_DB_CHARAANIM_ANIM and DLG_DB_EFFECTANIM_ANIM, "アニメ": one frame, with the cell
 // of its number shown in the pattern's preview graphic.
 template <class Frame>
@@ -62,7 +57,7 @@ using DLG_DB_CHARAANIM_ANIM = cAnimFrameForm<cCharaAnim>;
 using DLG_DB_EFFECTANIM_ANIM = cAnimFrameForm<cEffectAnim>;
 
 template <class Pat>
-class cAnimPage : public cTablePage<Pat>, public cAnimatedPage {
+class cAnimPage : public cTablePage<Pat> {
  public:
   using Frame = typename Pat::FrameType;
   enum : unsigned {
@@ -72,7 +67,7 @@ class cAnimPage : public cTablePage<Pat>, public cAnimatedPage {
 
   void OnCommand(unsigned id, unsigned code) override;
   // One tick of the preview: the number box follows the row, then the next frame.
-  void OnFrame() override;
+  void OnFrame();
   // The frames of the edit record become the one pattern of the player, from its start.
   void UpdatePlayer();
   // The picture from the number box and the player, stepped a tick with `step`.
@@ -88,6 +83,8 @@ class cAnimPage : public cTablePage<Pat>, public cAnimatedPage {
  private:
   static const cAnimPageKind& Kind();
   cSubFormList<Frame> m_Frames{cSubFormIds{kFrames, kFrameEdit, kFrameInsert, kFrameDelete}};
+  // Stepped by the idle frame while the page is in front.
+  cAnimatedPreview m_Animation{[this] { OnFrame(); }, [this] { return DatabasePageInFront(this); }};
 };
 
 using DLG_DB_CHARAANIM = cAnimPage<cCharaAnimPat>;

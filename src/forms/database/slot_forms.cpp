@@ -16,8 +16,11 @@ const cSkillList& ListOrEmpty(int list) {
 }  // namespace
 
 DLG_SLOT::DLG_SLOT(const cSlot& source, int list, QWidget* parent)
-    : cRecordForm(parent, "スロット", source), m_nList(list) {
-  for (const cCateg& c : ListOrEmpty(list).m_vecCateg) m_vecCategNames.push_back(c.m_strName);
+    : DLG_SLOT(source, ListOrEmpty(list).m_vecCateg, parent) {}
+
+DLG_SLOT::DLG_SLOT(const cSlot& source, const VECTOR_CLASS<cCateg>& categs, QWidget* parent)
+    : cRecordForm(parent, "スロット", source) {
+  for (const cCateg& c : categs) m_vecCategNames.push_back(c.m_strName);
   cListInit<cAcqCond> conds;
   conds.bMulti = 1;
   conds.pWork = &m_Work.m_vecAcqCond;
@@ -25,7 +28,9 @@ DLG_SLOT::DLG_SLOT(const cSlot& source, int list, QWidget* parent)
   conds.bRowNumbers = 1;
   conds.nMaxRows = 99;
   conds.bBlankRow = 1;
-  conds.pfnRowText = [this](std::string& out, int, const cAcqCond& c) { out = CategName(m_nList, c.m_nCateg); };
+  conds.pfnRowText = [this](std::string& out, int, const cAcqCond& c) {
+    out = c.m_nCateg >= 0 && c.m_nCateg < m_vecCategNames.Count() ? m_vecCategNames[c.m_nCateg] : std::string();
+  };
 
   cFormTable& F = Table();
   F.Check(kAny, "キャラが習得可能な全てのカテゴリーを習得できる", &m_Work.m_bAnyCateg).Span(3).Row();

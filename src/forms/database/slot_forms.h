@@ -14,13 +14,14 @@ class DLG_SLOT : public cRecordForm<cSlot> {
   };
   // `list` is the skill list whose categories the slot names.
   DLG_SLOT(const cSlot& source, int list, QWidget* parent = nullptr);
+  // The categories named as a list in edit holds them.
+  DLG_SLOT(const cSlot& source, const VECTOR_CLASS<cCateg>& categs, QWidget* parent = nullptr);
 
  protected:
   void OnReady() override;
   void OnFormCommand(unsigned id, unsigned code) override;
 
  private:
-  int m_nList;
   VECTOR_CLASS<std::string> m_vecCategNames;
   cAcqCond m_EditCond;
   CTRL_LIST_CLASS<cAcqCond> m_Conds;
