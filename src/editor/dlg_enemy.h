@@ -6,10 +6,10 @@
 #include <functional>
 
 #include "editor/enemy_list.h"
-#include "toolkit/dlg_class.h"
+#include "editor/palette_form.h"
 #include "toolkit/live_instance.h"
 
-class DLG_ENEMY : public DLG_CLASS, public cLiveInstance<DLG_ENEMY> {
+class DLG_ENEMY : public cPaletteForm, public cLiveInstance<DLG_ENEMY> {
  public:
   // `owner` is the main window, which the palette opens beside; `keys` receives Space
   // and F5 (Qt key codes), which belong to it; `mapChanged` draws the map again.
@@ -26,14 +26,6 @@ class DLG_ENEMY : public DLG_CLASS, public cLiveInstance<DLG_ENEMY> {
   cEnemyList m_Enemies;
 
  protected:
-  void OnInitDialog() override;
   void OnReady() override;
   void OnFormCommand(unsigned id, unsigned code) override;
-  void OnKeyDown(int key, bool bCtrl) override;
-  // The palette stays while its palette is current: Escape and the close box leave it.
-  void OnClose() override {}
-  void OnDestroy() override;
-
- private:
-  std::function<void(int)> m_fnKeys;
 };

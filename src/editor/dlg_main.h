@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 
+#include "editor/map_pane.h"
 #include "stage/stage_view_draw.h"
 #include "toolkit/view_class.h"
 
@@ -75,7 +76,7 @@ class DLG_MAIN : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void Scrolled();
+  cMapPane m_Pane;
   QSize m_Size;
   QPointer<DLG_CHIP> m_pDlgChip;
   std::unique_ptr<DLG_ENEMY> m_pDlgEnemy;

@@ -14,6 +14,8 @@
 
 #include "app/app_frame.h"
 #include "app/stage_commands.h"
+#include "app/world_commands.h"
+#include "editor/dlg_worldmap.h"
 #include "editor/form_catalog.h"
 #include "forms/database/database_sheet.h"
 #include "toolkit/dlg_class.h"
@@ -83,6 +85,21 @@ void SaveTestPlay(const std::string& path) {
     std::fprintf(stderr, "ortalune: the game program's end message arrived; the test play is over\n");
 }
 
+// The world map window over the whole screen, once with each palette beside it.
+void SaveWorldMapShots(const std::string& folder) {
+  g_pViewMain->Command(IDM_WORLD_MAP);
+  if (g_pDlgWorldMap == nullptr) return;
+  const int palettes[] = {IDW_TOOL_CHIP, IDW_TOOL_EVENT};
+  const char* const names[] = {"/DLG_WORLDMAP-chips.png", "/DLG_WORLDMAP-events.png"};
+  for (int i = 0; i < 2; ++i) {
+    g_pDlgWorldMap->Command(palettes[i]);
+    Settle(400);
+    SaveWholeScreen(folder + names[i]);
+  }
+  g_pDlgWorldMap->close();
+  Settle(100);
+}
+
 void EndRun() {
   if (g_pViewMain == nullptr) return QApplication::exit(0);
   g_pViewMain->m_bAskOnClose = false;
@@ -117,9 +134,10 @@ bool ScheduleScreenshots() {
   std::string mainPath = EnvPath("ORTALUNE_SCREENSHOT");
   std::string formFolder = EnvPath("ORTALUNE_SCREENSHOT_FORMS");
   std::string testPlayPath = EnvPath("ORTALUNE_SCREENSHOT_TESTPLAY");
-  if (mainPath.empty() && formFolder.empty() && testPlayPath.empty()) return false;
+  std::string worldFolder = EnvPath("ORTALUNE_SCREENSHOT_WORLDMAP");
+  if (mainPath.empty() && formFolder.empty() && testPlayPath.empty() && worldFolder.empty()) return false;
   // Late enough for the window to be laid out and painted.
-  QTimer::singleShot(500, [mainPath, formFolder, testPlayPath] {
+  QTimer::singleShot(500, [mainPath, formFolder, testPlayPath, worldFolder] {
     if (!mainPath.empty() && g_pViewMain != nullptr) {
       Save(g_pViewMain, mainPath);
       std::string screen = mainPath;
@@ -127,6 +145,7 @@ bool ScheduleScreenshots() {
       SaveScreen(screen);
     }
     if (!formFolder.empty()) SaveForms(formFolder);
+    if (!worldFolder.empty() && g_pViewMain != nullptr) SaveWorldMapShots(worldFolder);
     if (!testPlayPath.empty() && g_pViewMain != nullptr) SaveTestPlay(testPlayPath);
     EndRun();
   });

@@ -52,6 +52,7 @@ class VIEW_MAIN : public QMainWindow, public cMapEditHost {
  private:
   void StorePlace();
   bool OpenDatabase();
+  bool OpenWorldMap();
   void HidePalettes();
   void ShowPalettes();
   DLG_MAIN* m_pDlg = nullptr;
