@@ -43,12 +43,14 @@ DLG_WORLDEVENT_SET::DLG_WORLDEVENT_SET(cWorldEvent& target, QWidget* parent)
   F.EditStr(kIdName, "イベント名", &m_Work.m_strName, WideLine(20)).Span(2).Row();
   F.Button(kIdInsert, "挿入");
   F.Button(kIdDelete, "削除").Row();
-  F.List(kIdPages, "ページ", m_Pages, pages, kListFirstFree, 14).Span(2).Row();
+  F.List(kIdPages, "ページ", m_Pages, pages, kListFirstFree, 16).LabelAbove().Span(2).FixedPitch(16).Row();
+  // The page's controls: labels, fields, and a narrow third column of buttons and notes.
   F.Column();
-  F.Group("出現条件", 4);
+  F.Group("出現条件", 3);
   F.EditVal(kIdCondStage, "ステージ", &P.m_nCondStage, 0, 999, 1, kIdCondStageSpin);
-  F.Text("をクリアする", 2).Row();
-  F.Text("※「0」なら常に出現", 4).Row();
+  F.Text("をクリアする").Row();
+  F.Text("※「0」なら常に出現", 3).Row();
+  F.Skip();
   F.Combo(kIdCondVar, "", &P.m_nCondVar, &m_vecCondVarRows).Named("コモン変数");
   F.Button(kIdCondVarRename, "_").Named("コモン変数名の変更").Row();
   F.EditVal(kIdCondValue, "が", &P.m_nCondValue, -999999, 999999, 1, kIdCondValueSpin).EnableBy(kIdCondVar);
@@ -57,22 +59,22 @@ DLG_WORLDEVENT_SET::DLG_WORLDEVENT_SET(cWorldEvent& target, QWidget* parent)
   F.Combo(kIdGraphic, "グラフィック", &P.m_nGraphic, &m_vecGraphicRows);
   F.Picture(kIdPreview, "プレビュー", kMapCellPx, kMapCellPx).Row();
   F.Combo(kIdType, "イベントタイプ", &P.m_nType, kTypeLabels).Row();
-  F.EditStr(kIdStageName, "ステージ名", &P.m_strStageName, WideLine(30)).Span(3).EnableIf(stage).Row();
+  F.EditStr(kIdStageName, "ステージ名", &P.m_strStageName, WideLine(30)).Span(2).EnableIf(stage).Row();
   F.EditStr(kIdStagePath, "ステージ", &P.m_strStagePath, {.nLimit = 260, .nLineLen = 260, .nMaxLines = 1})
-      .Span(2)
       .EnableIf(stage);
   F.Button(kIdBrowse, "参照").EnableIf(stage).Row();
   F.Check(kIdVariation, "バリエーション", &P.m_bVariation).EnableIf(stage);
   F.Combo(kIdVarNo, "", &P.m_nVarNo, &m_vecVarRows).Named("変更するコモン変数").EnableIf(variation);
   F.Button(kIdVarRename, "_").Named("変更するコモン変数名の変更").EnableIf(variation).Row();
   F.EditVal(kIdVarValue, "＝", &P.m_nVarValue, -999999, 999999, 1, kIdVarValueSpin).EnableIf(variation).Row();
-  F.Text("☆ステージ開始前にコモン変数を変更する。例えば、コモン変数「ルート」を変えてルートAとルートBを別のステージとして出したいときなどに利用する",
-         4)
+  F.Text("☆ステージ開始前にコモン変数を変更する。\n例えば、コモン変数「ルート」を変えてルートAとルートBを\n"
+         "別のステージとして出したいときなどに利用する",
+         3)
       .Row();
   F.EditVal(kIdStageNo, "ステージ番号", &P.m_nStageNo, 0, 999, 1, kIdStageNoSpin).EnableIf(stage).Row();
-  F.Text("※「0」なら番号なし（常にクリア済み）", 4).Row();
-  F.Check(kIdPassable, "クリアしなくても通行可能", &P.m_bPassable).Span(2).EnableIf(stage).Row();
-  F.Check(kIdReplay, "クリア後でもプレイ可能", &P.m_bReplay).Span(2).EnableIf(stage).Row();
+  F.Text("※「0」なら番号なし（常にクリア済み）", 3).Row();
+  F.Check(kIdPassable, "クリアしなくても通行可能", &P.m_bPassable).Span(3).EnableIf(stage).Row();
+  F.Check(kIdReplay, "クリア後でもプレイ可能", &P.m_bReplay).Span(3).EnableIf(stage).Row();
   F.Combo(kIdGameClear, "ゲームクリア", &P.m_nGameClear, kGameClearLabels).EnableIf(stage).Row();
   F.EndColumns();
   F.OkCancel();

@@ -34,7 +34,8 @@ DLG_WORLDMAP_SET::DLG_WORLDMAP_SET(const cWorldMap& source, QWidget* parent)
   F.EditVal(kIdStartY, "初期位置 Y", &W.m_nStartY, 0, cWorldMap::kMaxHeight - 1, 1, kIdStartYSpin).Row();
   F.Combo(kIdBack, "最奥背景", &W.m_nBack, &m_vecBackRows, nullptr, 1).Span(3).Row();
   F.Check(kIdUseImage, "背景画像を使用する（最奥背景より手前）", &W.m_bUseImage).Span(4).Row();
-  F.EditStr(kIdBackImage, "背景画像", &W.m_strBackImage, {.nLimit = 260, .nLineLen = 260, .nMaxLines = 1}).Span(2);
+  F.EditStr(kIdBackImage, "背景画像", &W.m_strBackImage, {.nLimit = 260, .nLineLen = 260, .nMaxLines = 1}).Span(3).Row();
+  F.Skip(3);
   F.Button(kIdBrowse, "参照").Row();
   F.OkCancel();
 }
