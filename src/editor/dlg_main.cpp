@@ -19,9 +19,9 @@ void cStageView::OnPaint() {
   DrawStageView(m_Back, m_View);
 }
 
-void cStageView::Mouse(int msg, int x, int y) {
+void cStageView::Mouse(eMapMouse msg, int x, int y) {
   const cMouseState& m = m_Mouse;
-  StageMouse(m_View, {static_cast<eMapMouse>(msg), x, y, m.left, m.right});
+  StageMouse(m_View, {msg, x, y, m.left, m.right});
   Invalidate();
   if (m_onCursor) m_onCursor();
 }
@@ -40,20 +40,6 @@ void cStageView::OnMouseMove(int x, int y) {
   if (cx == m_View.m_nCursorX && cy == m_View.m_nCursorY) return;
   Invalidate();
   if (m_onCursor) m_onCursor();
-}
-
-void cStageView::OnLButtonDown(int x, int y) { Mouse(static_cast<int>(eMapMouse::kLeftDown), x, y); }
-void cStageView::OnLButtonUp(int x, int y) { Mouse(static_cast<int>(eMapMouse::kLeftUp), x, y); }
-void cStageView::OnRButtonDown(int x, int y) { Mouse(static_cast<int>(eMapMouse::kRightDown), x, y); }
-void cStageView::OnRButtonUp(int x, int y) { Mouse(static_cast<int>(eMapMouse::kRightUp), x, y); }
-void cStageView::OnRButtonDblClk(int x, int y) { Mouse(static_cast<int>(eMapMouse::kRightDoubleClick), x, y); }
-
-void cStageView::OnMouseWheel(int amount, bool bCtrl) {
-  if (m_onWheel) m_onWheel(amount, bCtrl);
-}
-
-void cStageView::OnSize() {
-  if (m_onResize) m_onResize();
 }
 
 DLG_MAIN::DLG_MAIN(QWidget* parent, QSize size) : QWidget(parent), m_Size(size) {

@@ -55,21 +55,7 @@ void cWorldView::Mouse(eMapMouse msg, int x, int y) {
   // A move within the cell changes nothing on the screen.
   if (msg == eMapMouse::kMove && cx == m_View.m_nCursorX && cy == m_View.m_nCursorY) return;
   Invalidate();
-  if (m_onMouse) m_onMouse();
-}
-
-void cWorldView::OnMouseMove(int x, int y) { Mouse(eMapMouse::kMove, x, y); }
-void cWorldView::OnLButtonDown(int x, int y) { Mouse(eMapMouse::kLeftDown, x, y); }
-void cWorldView::OnLButtonUp(int x, int y) { Mouse(eMapMouse::kLeftUp, x, y); }
-void cWorldView::OnRButtonDown(int x, int y) { Mouse(eMapMouse::kRightDown, x, y); }
-void cWorldView::OnRButtonUp(int x, int y) { Mouse(eMapMouse::kRightUp, x, y); }
-
-void cWorldView::OnMouseWheel(int amount, bool bCtrl) {
-  if (m_onWheel) m_onWheel(amount, bCtrl);
-}
-
-void cWorldView::OnSize() {
-  if (m_onResize) m_onResize();
+  if (m_onCursor) m_onCursor();
 }
 
 DLG_WORLDMAP::DLG_WORLDMAP(QWidget* stageWindow, std::function<void()> onClosed) : m_onClosed(std::move(onClosed)) {
@@ -91,7 +77,7 @@ DLG_WORLDMAP::DLG_WORLDMAP(QWidget* stageWindow, std::function<void()> onClosed)
   m_pScrollV = m_Pane.m_pScrollV;
   m_pStatus = m_Pane.m_pStatus;
   setCentralWidget(client);
-  m_Map.m_onMouse = [this] {
+  m_Map.m_onCursor = [this] {
     m_pStatus->setText(StatusText());
     if (g_WorldEditState.m_bPicking && !m_PollTimer.isActive()) m_PollTimer.start();
   };

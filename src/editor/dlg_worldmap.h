@@ -13,7 +13,6 @@
 
 #include "editor/map_pane.h"
 #include "stage/world_edit.h"
-#include "toolkit/view_class.h"
 
 class DLG_WORLDCHIP;
 class DLG_WORLDEVENT;
@@ -22,24 +21,13 @@ class QScrollBar;
 class cCommandBar;
 
 // The picture control of the world map.
-class cWorldView : public VIEW_CLASS {
+class cWorldView : public cMapViewCtrl {
  public:
   void OnPaint() override;
-  void OnMouseMove(int x, int y) override;
-  void OnLButtonDown(int x, int y) override;
-  void OnLButtonUp(int x, int y) override;
-  void OnRButtonDown(int x, int y) override;
-  void OnRButtonUp(int x, int y) override;
-  void OnMouseWheel(int amount, bool bCtrl) override;
-  void OnSize() override;
+  void OnMouseMove(int x, int y) override { Mouse(eMapMouse::kMove, x, y); }
 
-  MAP_VIEW m_View;
-  std::function<void()> m_onMouse;  // after a mouse message
-  std::function<void(int, bool)> m_onWheel;
-  std::function<void()> m_onResize;
-
- private:
-  void Mouse(eMapMouse msg, int x, int y);
+ protected:
+  void Mouse(eMapMouse msg, int x, int y) override;
 };
 
 class DLG_WORLDMAP : public QMainWindow, public cWorldEditHost {

@@ -3,12 +3,39 @@
 // map: the view with two scroll bars in cells and the status line below, the bars'
 // ranges from the map's size and the view's, and the wheel on the bars.
 
+#include <functional>
+
+#include "stage/map_edit.h"
 #include "stage/stage_view_draw.h"
+#include "toolkit/view_class.h"
 
 class QLabel;
 class QScrollBar;
 class QWidget;
-class VIEW_CLASS;
+
+// The picture control of a map: its buttons go to the editor's engine through Mouse,
+// the wheel and a change of size to the window around it.
+class cMapViewCtrl : public VIEW_CLASS {
+ public:
+  void OnLButtonDown(int x, int y) override { Mouse(eMapMouse::kLeftDown, x, y); }
+  void OnLButtonUp(int x, int y) override { Mouse(eMapMouse::kLeftUp, x, y); }
+  void OnRButtonDown(int x, int y) override { Mouse(eMapMouse::kRightDown, x, y); }
+  void OnRButtonUp(int x, int y) override { Mouse(eMapMouse::kRightUp, x, y); }
+  void OnMouseWheel(int amount, bool bCtrl) override {
+    if (m_onWheel) m_onWheel(amount, bCtrl);
+  }
+  void OnSize() override {
+    if (m_onResize) m_onResize();
+  }
+
+  MAP_VIEW m_View;
+  std::function<void()> m_onCursor;  // after a mouse message that moved or edited
+  std::function<void(int, bool)> m_onWheel;
+  std::function<void()> m_onResize;  // after the view changed size
+
+ protected:
+  virtual void Mouse(eMapMouse msg, int x, int y) = 0;
+};
 
 class cMapPane {
  public:
