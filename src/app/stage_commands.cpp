@@ -221,11 +221,18 @@ std::span<const cStageCommand> StageCommands() { return kCommands; }
 std::span<const cMenuRow> StageMenu() { return kMenuBar; }
 std::span<const int> StageToolbar() { return kToolbar; }
 
-const cStageCommand* FindStageCommand(int id) {
-  for (const cStageCommand& c : kCommands)
+const cStageCommand* cCommandSet::Find(int id) const {
+  for (const cStageCommand& c : commands)
     if (c.id == id || (c.shortcutId != 0 && c.shortcutId == id)) return &c;
   return nullptr;
 }
+
+const cCommandSet& StageCommandSet() {
+  static const cCommandSet set{kCommands, kMenuBar, kToolbar, CommandEnabled, CommandChecked};
+  return set;
+}
+
+const cStageCommand* FindStageCommand(int id) { return StageCommandSet().Find(id); }
 
 bool CommandEnabled(const cStageCommand& command) {
   const cEditState& es = ES();

@@ -72,6 +72,19 @@ std::span<const int> StageToolbar();
 
 bool CommandEnabled(const cStageCommand& command);
 bool CommandChecked(const cStageCommand& command);
+
+// A window's whole command table: what its menu bar and toolbar are built from, and how
+// its enabling and marks are read. The stage editor has one, the world map another.
+struct cCommandSet {
+  std::span<const cStageCommand> commands;
+  std::span<const cMenuRow> menu;
+  std::span<const int> toolbar;
+  bool (*enabled)(const cStageCommand&);
+  bool (*checked)(const cStageCommand&);
+  // The command with `id` or with it as shortcut id; null for an unknown id.
+  const cStageCommand* Find(int id) const;
+};
+const cCommandSet& StageCommandSet();
 // Runs the command with `id` (or that shortcut id) if it is enabled; false otherwise.
 bool RunStageCommand(int id);
 

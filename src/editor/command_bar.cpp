@@ -2,13 +2,16 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QCursor>
 #include <QMainWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
 #include <QToolButton>
 #include <vector>
 
 #include "app/stage_commands.h"
+#include "stage/event_menu.h"
 #include "toolkit/toolbar_images.h"
 
 namespace {
@@ -48,17 +51,22 @@ QAction* cCommandBar::Make(QObject* parent, int id, const QString& text) {
   return action;
 }
 
-cCommandBar::cCommandBar(QMainWindow* window, std::function<void(int)> run) : m_Run(std::move(run)) {
+cCommandBar::cCommandBar(QMainWindow* window, std::function<void(int)> run)
+    : cCommandBar(window, StageCommandSet(), ToolPicture, std::move(run)) {}
+
+cCommandBar::cCommandBar(QMainWindow* window, const cCommandSet& set, std::function<QIcon(int)> picture,
+                         std::function<void(int)> run)
+    : m_Set(set), m_Run(std::move(run)) {
   QMenu* menu = nullptr;
   std::vector<QMenu*> subs;
-  for (const cMenuRow& row : StageMenu()) {
+  for (const cMenuRow& row : m_Set.menu) {
     QMenu* into = subs.empty() ? menu : subs.back();
     switch (row.kind) {
       case eMenuRow::kMenu: menu = window->menuBar()->addMenu(Text(row.text)); break;
       case eMenuRow::kSub: subs.push_back(into->addMenu(Text(row.text))); break;
       case eMenuRow::kEndSub: subs.pop_back(); break;
       case eMenuRow::kItem: {
-        const cStageCommand& c = *FindStageCommand(row.id);
+        const cStageCommand& c = *m_Set.Find(row.id);
         QAction* action = Make(window, c.id, Text(c.menuText));
         action->setShortcuts(Shortcuts(c.shortcut));
         action->setCheckable(c.palette >= 0);
@@ -73,14 +81,14 @@ cCommandBar::cCommandBar(QMainWindow* window, std::function<void(int)> run) : m_
   m_pToolBar->setMovable(false);
   m_pToolBar->setIconSize(QSize(16, 16));
   auto* palettes = new QActionGroup(m_pToolBar);
-  for (int id : StageToolbar()) {
+  for (int id : m_Set.toolbar) {
     if (id == 0) {
       m_pToolBar->addSeparator();
       continue;
     }
-    const cStageCommand& c = *FindStageCommand(id);
+    const cStageCommand& c = *m_Set.Find(id);
     QAction* action = Make(m_pToolBar, id, Text(c.toolText));
-    action->setIcon(ToolPicture(id));
+    action->setIcon(picture(id));
     if (c.palette >= 0) {
       action->setCheckable(true);
       palettes->addAction(action);
@@ -95,9 +103,9 @@ cCommandBar::cCommandBar(QMainWindow* window, std::function<void(int)> run) : m_
 void cCommandBar::Update() {
   for (auto* map : {&m_mapMenu, &m_mapTool})
     for (auto& [id, action] : *map) {
-      const cStageCommand& c = *FindStageCommand(id);
-      action->setEnabled(CommandEnabled(c));
-      if (action->isCheckable()) action->setChecked(CommandChecked(c));
+      const cStageCommand& c = *m_Set.Find(id);
+      action->setEnabled(m_Set.enabled(c));
+      if (action->isCheckable()) action->setChecked(m_Set.checked(c));
     }
 }
 
@@ -109,4 +117,15 @@ QAction* cCommandBar::MenuAction(int id) const {
 QAction* cCommandBar::ToolAction(int id) const {
   auto it = m_mapTool.find(id);
   return it != m_mapTool.end() ? it->second : nullptr;
+}
+
+int RunEventPopup(QWidget* parent, const bool* enabled) {
+  QMenu menu(parent);
+  for (std::size_t i = 0; i < kEventMenu.size(); ++i) {
+    QAction* action = menu.addAction(QString::fromUtf8(kEventMenu[i].text));
+    action->setData(kEventMenu[i].id);
+    action->setEnabled(enabled[i]);
+  }
+  QAction* chosen = menu.exec(QCursor::pos());
+  return chosen != nullptr ? chosen->data().toInt() : 0;
 }

@@ -25,14 +25,13 @@ namespace {
 constexpr int kViewWidth = kChipPaletteCols * kMapCellPx;
 const char* const kToolTexts[] = {"普通", "直線", "矩形", "塗り潰し"};
 
-int TerrainCount() { return static_cast<int>(g_vecLand.size()); }
 
 }  // namespace
 
-void cChipView::OnPaint() { DrawChipPalette(m_Back, m_nTop); }
+void cChipView::OnPaint() { DrawChipPalette(m_Back, m_nTop, *m_pFace); }
 
 void cChipView::OnLButtonDown(int x, int y) {
-  ChooseChip(ChipAtPixel(x, y, m_nTop));
+  m_pFace->choose(ChipAtPixel(x, y, m_nTop));
   if (m_onChosen) m_onChosen();
 }
 
@@ -40,10 +39,16 @@ void cChipView::OnMouseWheel(int amount, bool) {
   if (m_onWheel) m_onWheel(amount);
 }
 
-DLG_CHIP::DLG_CHIP(QWidget* owner, std::function<void(int)> keys) : QWidget(owner, Qt::Tool), m_Keys(std::move(keys)) {
+DLG_CHIP::DLG_CHIP(QWidget* owner, std::function<void(int)> keys)
+    : DLG_CHIP(owner, std::move(keys), {StageChipFace(), true, true, g_EditConfig.m_PosChip, QPoint(8, 0)}) {}
+
+DLG_CHIP::DLG_CHIP(QWidget* owner, std::function<void(int)> keys, const cLook& look)
+    : QWidget(owner, Qt::Tool), m_Keys(std::move(keys)), m_Look(look) {
   setWindowTitle(QStringLiteral("マップチップパレット"));
   setAccessibleName(windowTitle());
+  m_View.m_pFace = &m_Look.face;
   m_pToolBar = new QToolBar(this);
+  m_pToolBar->setVisible(m_Look.tools);
   m_pToolBar->setIconSize(QSize(16, 16));
   m_pTools = new QActionGroup(this);
   const std::vector<QIcon> pictures = ToolbarStrip("e_image\\ToolBar_Pen.bmp", 4);
@@ -73,13 +78,14 @@ DLG_CHIP::DLG_CHIP(QWidget* owner, std::function<void(int)> keys) : QWidget(owne
     m_View.Invalidate();
   });
   m_View.m_onChosen = [this] { Refresh(); };
-  m_View.m_onWheel = [this](int amount) { m_pScroll->setValue(m_pScroll->value() + WheelScrollDelta(amount)); };
+  if (m_Look.wheel)
+    m_View.m_onWheel = [this](int amount) { m_pScroll->setValue(m_pScroll->value() + WheelScrollDelta(amount)); };
   Relayout();
   Refresh();
 }
 
 DLG_CHIP::~DLG_CHIP() {
-  if (m_bPlaced) g_EditConfig.m_PosChip.Set(x(), y(), width(), height());
+  if (m_bPlaced) m_Look.stored.Set(x(), y(), width(), height());
 }
 
 void DLG_CHIP::Relayout() {
@@ -87,15 +93,15 @@ void DLG_CHIP::Relayout() {
   const QRect work = screen != nullptr ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
   // What the window needs beside the chips: bars, and the frame the desktop adds.
   const int frame = std::max(frameGeometry().height() - height(), 32);
-  const int extra = m_pToolBar->sizeHint().height() + m_pStatus->sizeHint().height();
-  const int full = ChipPaletteHeight(TerrainCount(), work.height() - extra - frame);
+  const int extra = (m_Look.tools ? m_pToolBar->sizeHint().height() : 0) + m_pStatus->sizeHint().height();
+  const int full = ChipPaletteHeight(m_Look.face.count(), work.height() - extra - frame);
   m_View.m_hWnd->setMaximumHeight(full);
   m_View.m_hWnd->setMinimumHeight(kMapCellPx);
   setMinimumHeight(extra + kMapCellPx);
   setMaximumHeight(extra + full);
 
   QRect place(0, 0, kViewWidth + m_pScroll->sizeHint().width(), extra + full);
-  const cWndPosInfo& stored = g_EditConfig.m_PosChip;
+  const cWndPosInfo& stored = m_Look.stored;
   if (m_bPlaced) {
     place.moveTopLeft(pos());
     place.setHeight(std::min(height(), extra + full));
@@ -103,8 +109,8 @@ void DLG_CHIP::Relayout() {
     place.moveTopLeft(QPoint(stored.m_nX, stored.m_nY));
     place.setHeight(std::clamp(stored.m_nHeight, extra + kMapCellPx, extra + full));
   } else if (parentWidget() != nullptr) {
-    // Beside the main window, 8 pixels away.
-    place.moveTopLeft(parentWidget()->frameGeometry().topRight() + QPoint(8, 0));
+    // Beside the main window.
+    place.moveTopLeft(parentWidget()->frameGeometry().topRight() + m_Look.offset);
   }
   resize(place.size());
   move(PlaceInWorkArea(place.topLeft(), frameGeometry().size().expandedTo(place.size()), work));
@@ -113,13 +119,13 @@ void DLG_CHIP::Relayout() {
 }
 
 void DLG_CHIP::UpdateScroll() {
-  m_pScroll->setRange(0, std::max(0, (TerrainCount() - 1) / kChipPaletteCols));
+  m_pScroll->setRange(0, std::max(0, (m_Look.face.count() - 1) / kChipPaletteCols));
   m_pScroll->setPageStep(std::max(1, m_View.m_hWnd->height() / kMapCellPx));
 }
 
 void DLG_CHIP::Refresh() {
   if (QAction* current = m_pTools->actions().value(g_EditState.m_nTool)) current->setChecked(true);
-  m_pStatus->setText(QtText(ChipStatusText()));
+  m_pStatus->setText(QtText(ChipStatusText(m_Look.face)));
   m_View.Invalidate();
 }
 

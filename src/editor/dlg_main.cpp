@@ -1,6 +1,5 @@
 #include "editor/dlg_main.h"
 
-#include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScrollBar>
@@ -21,9 +20,9 @@ void cStageView::OnPaint() {
   DrawStageView(m_Back, m_View);
 }
 
-void cStageView::Mouse(int msg, int x, int y) {
+void cStageView::Mouse(eMapMouse msg, int x, int y) {
   const cMouseState& m = m_Mouse;
-  StageMouse(m_View, {static_cast<eMapMouse>(msg), x, y, m.left, m.right});
+  StageMouse(m_View, {msg, x, y, m.left, m.right});
   Invalidate();
   if (m_onCursor) m_onCursor();
 }
@@ -44,44 +43,17 @@ void cStageView::OnMouseMove(int x, int y) {
   if (m_onCursor) m_onCursor();
 }
 
-void cStageView::OnLButtonDown(int x, int y) { Mouse(static_cast<int>(eMapMouse::kLeftDown), x, y); }
-void cStageView::OnLButtonUp(int x, int y) { Mouse(static_cast<int>(eMapMouse::kLeftUp), x, y); }
-void cStageView::OnRButtonDown(int x, int y) { Mouse(static_cast<int>(eMapMouse::kRightDown), x, y); }
-void cStageView::OnRButtonUp(int x, int y) { Mouse(static_cast<int>(eMapMouse::kRightUp), x, y); }
-void cStageView::OnRButtonDblClk(int x, int y) { Mouse(static_cast<int>(eMapMouse::kRightDoubleClick), x, y); }
-
-void cStageView::OnMouseWheel(int amount, bool bCtrl) {
-  if (m_onWheel) m_onWheel(amount, bCtrl);
-}
-
-void cStageView::OnSize() {
-  if (m_onResize) m_onResize();
-}
-
 DLG_MAIN::DLG_MAIN(QWidget* parent, QSize size) : QWidget(parent), m_Size(size) {
   setFocusPolicy(Qt::StrongFocus);
   setMinimumSize(kMinWidth, kMinHeight);
   m_Map.CreateView(this, size.width(), size.height(), true);
   m_Map.m_hWnd->setAccessibleName(QStringLiteral("マップ"));
-  m_pScrollH = new QScrollBar(Qt::Horizontal, this);
-  m_pScrollV = new QScrollBar(Qt::Vertical, this);
-  m_pStatus = new QLabel(this);
-  m_pStatus->setContentsMargins(4, 1, 4, 1);
-  auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->setSpacing(0);
-  grid->addWidget(m_Map.m_hWnd, 0, 0);
-  grid->addWidget(m_pScrollV, 0, 1);
-  grid->addWidget(m_pScrollH, 1, 0);
-  grid->addWidget(m_pStatus, 2, 0, 1, 2);
-  QObject::connect(m_pScrollH, &QScrollBar::valueChanged, this, [this] { Scrolled(); });
-  QObject::connect(m_pScrollV, &QScrollBar::valueChanged, this, [this] { Scrolled(); });
+  m_Pane.Build(this, m_Map, m_Map.m_View);
+  m_pScrollH = m_Pane.m_pScrollH;
+  m_pScrollV = m_Pane.m_pScrollV;
+  m_pStatus = m_Pane.m_pStatus;
   m_Map.m_onCursor = [this] { m_pStatus->setText(StatusText()); };
-  // Without Ctrl the wheel moves the horizontal bar, with Ctrl the vertical one.
-  m_Map.m_onWheel = [this](int amount, bool ctrl) {
-    QScrollBar* bar = ctrl ? m_pScrollV : m_pScrollH;
-    bar->setValue(bar->value() + WheelScrollDelta(amount));
-  };
+  m_Map.m_onWheel = [this](int amount, bool ctrl) { m_Pane.Wheel(amount, ctrl); };
   // The ranges follow the view's size.
   m_Map.m_onResize = [this] { UpdateScrollRanges(); };
   m_pStatus->setText(StatusText());
@@ -92,25 +64,11 @@ DLG_MAIN::~DLG_MAIN() { delete m_pDlgChip.data(); }  // the enemy palette goes w
 QString DLG_MAIN::StatusText() const { return QtText(MapCoordText(m_Map.m_View.m_nCursorX, m_Map.m_View.m_nCursorY)); }
 
 void DLG_MAIN::UpdateScrollRanges() {
-  bool open = g_EditState.m_bStageOpen != 0;
-  cMapScrollRange h = MapScrollRange(open ? g_Stage.m_nWidth : 0, m_Map.m_hWnd->width());
-  cMapScrollRange v = MapScrollRange(open ? g_Stage.m_nHeight : 0, m_Map.m_hWnd->height());
-  m_pScrollH->setRange(0, h.nMax);
-  m_pScrollH->setPageStep(std::max(1, h.nPage));
-  m_pScrollV->setRange(0, v.nMax);
-  m_pScrollV->setPageStep(std::max(1, v.nPage));
-  Scrolled();
+  const bool open = g_EditState.m_bStageOpen != 0;
+  m_Pane.SetMapSize(open ? g_Stage.m_nWidth : 0, open ? g_Stage.m_nHeight : 0);
 }
 
 void DLG_MAIN::Redraw() { m_Map.Invalidate(); }
-
-void DLG_MAIN::Scrolled() {
-  STAGE_VIEW& view = m_Map.m_View;
-  if (view.m_nScrollX == m_pScrollH->value() && view.m_nScrollY == m_pScrollV->value()) return;
-  view.m_nScrollX = m_pScrollH->value();
-  view.m_nScrollY = m_pScrollV->value();
-  Redraw();
-}
 
 void DLG_MAIN::ShowPalette(int palette) {
   if (palette != PALETTE_CHIP) delete m_pDlgChip.data();

@@ -8,8 +8,7 @@
 #include <functional>
 #include <memory>
 
-#include "stage/stage_view_draw.h"
-#include "toolkit/view_class.h"
+#include "editor/map_pane.h"
 
 class DLG_CHIP;
 class DLG_ENEMY;
@@ -17,27 +16,16 @@ class DLG_EVENT;
 class QLabel;
 class QScrollBar;
 
-// The picture control of the map: the stage drawn into the view's back buffer, which
+// The picture control of the stage: the stage drawn into the view's back buffer, which
 // follows the view's size.
-class cStageView : public VIEW_CLASS {
+class cStageView : public cMapViewCtrl {
  public:
   void OnPaint() override;
   void OnMouseMove(int x, int y) override;
-  void OnLButtonDown(int x, int y) override;
-  void OnLButtonUp(int x, int y) override;
-  void OnRButtonDown(int x, int y) override;
-  void OnRButtonUp(int x, int y) override;
-  void OnRButtonDblClk(int x, int y) override;
-  void OnMouseWheel(int amount, bool bCtrl) override;
-  void OnSize() override;
+  void OnRButtonDblClk(int x, int y) override { Mouse(eMapMouse::kRightDoubleClick, x, y); }
 
-  STAGE_VIEW m_View;
-  std::function<void()> m_onCursor;        // after a mouse message
-  std::function<void(int, bool)> m_onWheel;
-  std::function<void()> m_onResize;        // after the view changed size
-
- private:
-  void Mouse(int msg, int x, int y);
+ protected:
+  void Mouse(eMapMouse msg, int x, int y) override;
 };
 
 class DLG_MAIN : public QWidget {
@@ -77,7 +65,7 @@ class DLG_MAIN : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void Scrolled();
+  cMapPane m_Pane;
   QSize m_Size;
   QPointer<DLG_CHIP> m_pDlgChip;
   std::unique_ptr<DLG_ENEMY> m_pDlgEnemy;

@@ -8,6 +8,7 @@
 #include "platform/main_window_link.h"
 #include "editor/dlg_battle_mode.h"
 #include "editor/dlg_main.h"
+#include "editor/dlg_worldmap.h"
 #include "editor/idle_timer.h"
 #include "forms/animated_previews.h"
 #include "forms/database/database_sheet.h"
@@ -30,8 +31,10 @@ void DestroyMain() {
   QTimer::singleShot(0, g_pViewMain, [] { g_pViewMain->close(); });
 }
 
+// While the world map is open (view number 2) the focus goes to its window.
 void FocusMain() {
-  if (g_pDlgMain != nullptr) g_pDlgMain->setFocus();
+  if (g_pDlgWorldMap != nullptr) g_pDlgWorldMap->FocusWindow();
+  else if (g_pDlgMain != nullptr) g_pDlgMain->setFocus();
 }
 
 }  // namespace

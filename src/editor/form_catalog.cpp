@@ -15,6 +15,9 @@
 #include "editor/dlg_testplay.h"
 #include "forms/database/db_anim_pages.h"
 #include "forms/database/categ_form.h"
+#include "editor/dlg_worldevent.h"
+#include "editor/dlg_worldevent_set.h"
+#include "editor/dlg_worldmap_set.h"
 #include "forms/database/db_compati_page.h"
 #include "forms/database/db_help_page.h"
 #include "forms/database/battle_ai_forms.h"
@@ -95,6 +98,17 @@ cGroupPos& CatalogGroup() {
 cMoveAI g_CatalogRule;
 cEndCond g_CatalogLine;
 VECTOR_CLASS<cMoveAITemplate> g_vecCatalogTemplates(1);
+// A world event with a stage page and a road page.
+cWorldEvent& CatalogWorldEvent() {
+  static cWorldEvent event = [] {
+    cWorldEvent e;
+    e.m_vecPage[0].m_nStageNo = 3;
+    e.m_vecPage.emplace_back();
+    e.m_vecPage.back().m_nType = WORLDEVENT_ROAD;
+    return e;
+  }();
+  return event;
+}
 
 // One action of each kind with a form, as a new one stands: the forms of the actions.
 std::vector<cFormCatalogEntry> WithEventActForms(std::vector<cFormCatalogEntry> all) {
@@ -208,6 +222,12 @@ const std::vector<cFormCatalogEntry>& FormCatalog() {
       {"DLG_LEARNSKILL", [] { return std::make_unique<DLG_LEARNSKILL>(g_LearnSkill); },
        [] { return SavedBytes(g_LearnSkill); }},
       {"DLG_BATTLEAI", [] { return std::make_unique<DLG_BATTLEAI>(g_BattleAI); }, [] { return SavedBytes(g_BattleAI); }},
+      {"DLG_WORLDEVENT", [] { return std::make_unique<DLG_WORLDEVENT>(nullptr, nullptr); },
+       [] { return SavedBytes(g_WorldMap); }},
+      {"DLG_WORLDEVENT_SET", [] { return std::make_unique<DLG_WORLDEVENT_SET>(CatalogWorldEvent(), nullptr); },
+       [] { return SavedBytes(CatalogWorldEvent()); }},
+      {"DLG_WORLDMAP_SET", [] { return std::make_unique<DLG_WORLDMAP_SET>(g_WorldMap, nullptr); },
+       [] { return SavedBytes(g_WorldMap); }},
       {"DLG_BATTLEAI_COND", [] { return std::make_unique<DLG_BATTLEAI_COND>(g_BattleAICond); },
        [] { return SavedBytes(g_BattleAICond); }},
       {"DLG_ELEM", [] { return std::make_unique<DLG_ELEM>(g_Elem); }, [] { return SavedBytes(g_Elem); }},

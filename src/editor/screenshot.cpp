@@ -15,6 +15,8 @@
 
 #include "app/app_frame.h"
 #include "app/stage_commands.h"
+#include "app/world_commands.h"
+#include "editor/dlg_worldmap.h"
 #include "editor/form_catalog.h"
 #include "forms/database/database_sheet.h"
 #include "forms/database/db_skill_list_page.h"
@@ -87,6 +89,21 @@ void SaveTestPlay(const std::string& path) {
     std::fprintf(stderr, "ortalune: the game program's end message arrived; the test play is over\n");
 }
 
+// The world map window over the whole screen, once with each palette beside it.
+void SaveWorldMapShots(const std::string& folder) {
+  g_pViewMain->Command(IDM_WORLD_MAP);
+  if (g_pDlgWorldMap == nullptr) return;
+  const int palettes[] = {IDW_TOOL_CHIP, IDW_TOOL_EVENT};
+  const char* const names[] = {"/DLG_WORLDMAP-chips.png", "/DLG_WORLDMAP-events.png"};
+  for (int i = 0; i < 2; ++i) {
+    g_pDlgWorldMap->Command(palettes[i]);
+    Settle(400);
+    SaveWholeScreen(folder + names[i]);
+  }
+  g_pDlgWorldMap->close();
+  Settle(100);
+}
+
 void EndRun() {
   if (g_pViewMain == nullptr) return QApplication::exit(0);
   g_pViewMain->m_bAskOnClose = false;
@@ -145,9 +162,10 @@ bool ScheduleScreenshots() {
   std::string mainPath = EnvPath("ORTALUNE_SCREENSHOT");
   std::string formFolder = EnvPath("ORTALUNE_SCREENSHOT_FORMS");
   std::string testPlayPath = EnvPath("ORTALUNE_SCREENSHOT_TESTPLAY");
-  if (mainPath.empty() && formFolder.empty() && testPlayPath.empty()) return false;
+  std::string worldFolder = EnvPath("ORTALUNE_SCREENSHOT_WORLDMAP");
+  if (mainPath.empty() && formFolder.empty() && testPlayPath.empty() && worldFolder.empty()) return false;
   // Late enough for the window to be laid out and painted.
-  QTimer::singleShot(500, [mainPath, formFolder, testPlayPath] {
+  QTimer::singleShot(500, [mainPath, formFolder, testPlayPath, worldFolder] {
     if (!mainPath.empty() && g_pViewMain != nullptr) {
       Save(g_pViewMain, mainPath);
       std::string screen = mainPath;
@@ -155,6 +173,7 @@ bool ScheduleScreenshots() {
       SaveScreen(screen);
     }
     if (!formFolder.empty()) SaveForms(formFolder);
+    if (!worldFolder.empty() && g_pViewMain != nullptr) SaveWorldMapShots(worldFolder);
     if (!testPlayPath.empty() && g_pViewMain != nullptr) SaveTestPlay(testPlayPath);
     EndRun();
   });

@@ -18,6 +18,7 @@
 #include "editor/dlg_main.h"
 #include "editor/dlg_stage.h"
 #include "editor/dlg_testplay.h"
+#include "editor/dlg_worldmap.h"
 #include "editor/map_scroll.h"
 #include "forms/database/database_sheet.h"
 #include "forms/event/dlg_event_set.h"
@@ -161,6 +162,7 @@ bool VIEW_MAIN::RunForm(int command) {
   switch (command) {
     case IDM_TEST_PLAY_SETTINGS: RunTestPlaySettings(this); return true;
     case IDM_DATABASE: return OpenDatabase();
+    case IDM_WORLD_MAP: return OpenWorldMap();
     case IDM_STAGE_SETTINGS:
       if (RunStageSettings(this) == 1) {
         StageSettingsConfirmed();
@@ -195,15 +197,24 @@ bool VIEW_MAIN::OpenDatabase() {
   return true;
 }
 
+// The world map takes the stage editor's place until it closes.
+bool VIEW_MAIN::OpenWorldMap() {
+  if (OpenWorldMapWindow(this, [this] {
+        show();
+        setEnabled(true);
+        if (m_pDlg != nullptr) m_pDlg->SetPaletteVisible(true);
+        RefreshPalette();
+        FocusMain();
+      }) == nullptr)
+    return false;
+  if (m_pDlg != nullptr) m_pDlg->SetPaletteVisible(false);
+  setEnabled(false);
+  hide();
+  return true;
+}
+
 int VIEW_MAIN::PopupEventMenu(const bool* enabled) {
-  QMenu menu(this);
-  for (std::size_t i = 0; i < kEventMenu.size(); ++i) {
-    QAction* action = menu.addAction(QString::fromUtf8(kEventMenu[i].text));
-    action->setData(kEventMenu[i].id);
-    action->setEnabled(enabled[i]);
-  }
-  QAction* chosen = menu.exec(QCursor::pos());
-  const int id = chosen != nullptr ? chosen->data().toInt() : 0;
+  const int id = RunEventPopup(this, enabled);
   // A copy or cut of an event on the map also reaches the event palette's own clipboard.
   const cEvent* event = g_EditState.m_pEditEvent;
   if ((id == IDM_EVENT_COPY || id == IDM_EVENT_CUT) && event != nullptr && m_pDlg != nullptr && m_pDlg->Event() != nullptr)

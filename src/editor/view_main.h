@@ -53,6 +53,7 @@ class VIEW_MAIN : public QMainWindow, public cMapEditHost {
   void StorePlace();
   void EditStartEvent();
   bool OpenDatabase();
+  bool OpenWorldMap();
   void HidePalettes();
   void ShowPalettes();
   DLG_MAIN* m_pDlg = nullptr;

@@ -6,6 +6,40 @@
 #include "project/project_globals.h"
 #include "stage/edit_state.h"
 #include "stage/stage_view_draw.h"
+#include "stage/world_edit.h"
+
+namespace {
+
+void DrawWorldChip(cSurface& buffer, int px, int py, int n) {
+  const int g = g_WorldMap.m_vecChip[static_cast<std::size_t>(n)].m_nGraphic;
+  if (g >= 0)
+    BlitSheetCell(buffer, px, py, g_aSheet[SHEET_WORLD_CHIP], (g % 8) * kMapCellPx,
+                  (g / 8) * static_cast<long long>(kMapCellPx));
+}
+
+}  // namespace
+
+const cChipPaletteFace& StageChipFace() {
+  static const cChipPaletteFace face{
+      [] { return static_cast<int>(g_vecLand.size()); },
+      [](cSurface& buffer, int px, int py, int n) { DrawTerrainChip(buffer, px, py, n); },
+      [](int n) -> const std::string& { return g_vecLand[static_cast<std::size_t>(n)].m_strName; },
+      [] { return g_EditState.m_nSelected; },
+      ChooseChip,
+  };
+  return face;
+}
+
+const cChipPaletteFace& WorldChipFace() {
+  static const cChipPaletteFace face{
+      [] { return static_cast<int>(g_WorldMap.m_vecChip.size()); },
+      DrawWorldChip,
+      [](int n) -> const std::string& { return g_WorldMap.m_vecChip[static_cast<std::size_t>(n)].m_strName; },
+      [] { return g_WorldEditState.m_nSelected; },
+      ChooseWorldChip,
+  };
+  return face;
+}
 
 int ChipPaletteRows(int count) { return count <= 0 ? 1 : (count - 1) / kChipPaletteCols + 1; }
 
@@ -26,24 +60,24 @@ void ChooseChip(int n) {
   es.m_nBrushW = es.m_nBrushH = 1;
 }
 
-std::string ChipStatusText() {
-  const int n = g_EditState.m_nSelected;
-  if (n < 0 || n >= static_cast<int>(g_vecLand.size())) return {};
+std::string ChipStatusText(const cChipPaletteFace& face) {
+  const int n = face.selected();
+  if (n < 0 || n >= face.count()) return {};
   char number[16];
   std::snprintf(number, sizeof number, "%d : ", n + 1);
-  return number + g_vecLand[static_cast<std::size_t>(n)].m_strName;
+  return number + face.name(n);
 }
 
-void DrawChipPalette(cSurface& buffer, int top) {
+void DrawChipPalette(cSurface& buffer, int top, const cChipPaletteFace& face) {
   buffer.Fill(0);
-  const int count = static_cast<int>(g_vecLand.size());
+  const int count = face.count();
   const int rows = buffer.m_nHeight / kMapCellPx + 1;
   for (int r = 0; r < rows; ++r)
     for (int c = 0; c < kChipPaletteCols; ++c) {
       const int n = (top + r) * kChipPaletteCols + c;
-      if (n < count) DrawTerrainChip(buffer, c * kMapCellPx, r * kMapCellPx, n);
+      if (n < count) face.draw(buffer, c * kMapCellPx, r * kMapCellPx, n);
     }
-  const int sel = g_EditState.m_nSelected;
+  const int sel = face.selected();
   if (sel < 0) return;
   buffer.SetPen(kPenSolid, 2, kChipHighlightColour);
   buffer.Frame((sel % kChipPaletteCols) * kMapCellPx, (sel / kChipPaletteCols - top) * kMapCellPx, kMapCellPx,

@@ -12,6 +12,7 @@
 #include "stage/edit_state.h"
 #include "stage/event_menu.h"
 #include "stage/line_walk.h"
+#include "stage/map_brush.h"
 #include "stage/map_cursor.h"
 #include "stage/stage_snapshot.h"
 
@@ -61,41 +62,28 @@ void StampEnemy(int x, int y, int index) {
 void StampEvent(int x, int y) {
   cEditState& es = ES();
   if (es.m_nSelected == -1) return;
-  if (g_EditConfig.m_bEditIfPlaced)
-    if (cEvent* placed = g_Stage.EventAt(x, y)) {
-      es.m_bEditPlaced = 1;
-      es.m_pEditEvent = placed;
-      g_pHost->EditEvent(*placed, true);
-      es.m_pEditEvent = nullptr;
-      return;
-    }
-  cEvent temp = es.m_PutEvent;
-  if (g_EditConfig.m_bEditBeforePut) {
-    temp.m_nX = x;
-    temp.m_nY = y;
-    es.m_bEditPlaced = 0;
-    es.m_pEditEvent = &temp;
-    const bool confirmed = g_pHost->EditEvent(temp, false);
+  const cEventPenRules rules{g_EditConfig.m_bEditIfPlaced != 0, g_EditConfig.m_bEditBeforePut != 0};
+  PenPlaceEvent(g_Stage, es.m_PutEvent, x, y, rules, [](cEvent&, cEvent*) {}, [&](cEvent& event, bool placed) {
+    es.m_bEditPlaced = placed ? 1 : 0;
+    es.m_pEditEvent = &event;
+    const bool confirmed = g_pHost->EditEvent(event, placed);
     es.m_pEditEvent = nullptr;
-    if (!confirmed) return;
-  }
-  g_Stage.PutEvent(temp, x, y);
+    return confirmed;
+  });
 }
 
 // --- the tools ---
 
 void PenStamp() {
-  cEditState& es = ES();
-  for (int r = 0; r < es.m_nBrushH && CursorY() + r < g_Stage.m_nHeight; ++r) {
-    for (int c = 0; c < es.m_nBrushW && CursorX() + c < g_Stage.m_nWidth; ++c) {
-      const int x = CursorX() + c, y = CursorY() + r;
-      switch (es.m_nPalette) {
-        case PALETTE_CHIP: StampChip(x, y, BrushIndex(r, c)); break;
-        case PALETTE_ENEMY: StampEnemy(x, y, BrushIndex(r, c)); break;
-        default: StampEvent(x, y); break;
-      }
-    }
-  }
+  const cEditState& es = ES();
+  WalkBrush(CursorX(), CursorY(), es.m_nBrushW, es.m_nBrushH, g_Stage.m_nWidth, g_Stage.m_nHeight,
+            cEditState::kBrushSide, cEditState::kBrushSide, [&](int x, int y, int r, int c) {
+              switch (es.m_nPalette) {
+                case PALETTE_CHIP: StampChip(x, y, BrushIndex(r, c)); break;
+                case PALETTE_ENEMY: StampEnemy(x, y, BrushIndex(r, c)); break;
+                default: StampEvent(x, y); break;
+              }
+            });
   g_pHost->RefreshPalette();
 }
 
@@ -103,9 +91,9 @@ bool PenPress() {
   if (ChipBrushRefused()) return false;
   const cEditState& es = ES();
   // An event the form will edit, or place, makes its step when the form is confirmed.
-  const bool formSteps = es.m_nPalette == PALETTE_EVENT &&
-                         ((g_EditConfig.m_bEditIfPlaced && g_Stage.HasEventAt(CursorX(), CursorY())) ||
-                          g_EditConfig.m_bEditBeforePut);
+  const cEventPenRules rules{g_EditConfig.m_bEditIfPlaced != 0, g_EditConfig.m_bEditBeforePut != 0};
+  const bool formSteps =
+      es.m_nPalette == PALETTE_EVENT && EventFormMakesStep(rules, g_Stage.HasEventAt(CursorX(), CursorY()));
   if (!formSteps) PushUndo();
   PenStamp();
   return true;
@@ -245,27 +233,26 @@ void RunTool(const cMapMouseEvent& e, bool cellChanged) {
 
 void PickRange() {
   cEditState& es = ES();
-  const int x0 = std::min(es.m_nDragX, CursorX()), y0 = std::min(es.m_nDragY, CursorY());
-  es.m_nBrushW = std::abs(CursorX() - es.m_nDragX) + 1;
-  es.m_nBrushH = std::abs(CursorY() - es.m_nDragY) + 1;
+  const cCellRect rect = PickedRect(es.m_nDragX, es.m_nDragY, CursorX(), CursorY());
+  es.m_nBrushW = rect.w;
+  es.m_nBrushH = rect.h;
   int enemyRow = -1;
-  for (int r = 0; r < es.m_nBrushH && y0 + r < g_Stage.m_nHeight; ++r) {
-    for (int c = 0; c < es.m_nBrushW && x0 + c < g_Stage.m_nWidth; ++c) {
-      const auto at = static_cast<std::size_t>(BrushIndex(r, c));
-      if (es.m_nPalette == PALETTE_CHIP) {
-        es.m_aBrushChip[at] = static_cast<std::uint32_t>(CellRef(x0 + c, y0 + r));
-        continue;
-      }
-      es.m_aBrushEnemy[at] = -1;
-      const VECTOR_CLASS<cPutEnemy>& enemies = g_Stage.m_vecPutEnemy;
-      for (int i = 0; i < enemies.Count(); ++i)
-        if (enemies[i].m_nX == x0 + c && enemies[i].m_nY == y0 + r) {
-          es.m_aBrushEnemy[at] = i;
-          break;
-        }
-      enemyRow = es.m_aBrushEnemy[at];
-    }
-  }
+  WalkBrush(rect.x, rect.y, rect.w, rect.h, g_Stage.m_nWidth, g_Stage.m_nHeight, cEditState::kBrushSide,
+            cEditState::kBrushSide, [&](int x, int y, int r, int c) {
+              const auto at = static_cast<std::size_t>(BrushIndex(r, c));
+              if (es.m_nPalette == PALETTE_CHIP) {
+                es.m_aBrushChip[at] = static_cast<std::uint32_t>(CellRef(x, y));
+                return;
+              }
+              es.m_aBrushEnemy[at] = -1;
+              const VECTOR_CLASS<cPutEnemy>& enemies = g_Stage.m_vecPutEnemy;
+              for (int i = 0; i < enemies.Count(); ++i)
+                if (enemies[i].m_nX == x && enemies[i].m_nY == y) {
+                  es.m_aBrushEnemy[at] = i;
+                  break;
+                }
+              enemyRow = es.m_aBrushEnemy[at];
+            });
   // One cell holding an enemy selects its row; any other pick leaves none selected.
   if (es.m_nPalette == PALETTE_ENEMY) {
     if (es.m_nBrushW != 1 || es.m_nBrushH != 1) enemyRow = -1;
@@ -317,16 +304,10 @@ cMapEditHost& MapEditHost() { return *g_pHost; }
 void SetMapEditHost(cMapEditHost* host) { g_pHost = host != nullptr ? host : &g_SilentHost; }
 
 void MoveMapCursor(MAP_VIEW& view, int px, int py) {
-  const bool inside = px >= 0 && py >= 0 && px < view.m_nWidth && py < view.m_nHeight;
-  if (!inside) {
-    px = std::clamp(px, 0, std::max(view.m_nWidth - 1, 0));
-    py = std::clamp(py, 0, std::max(view.m_nHeight - 1, 0));
-  }
-  int x = view.m_nScrollX + px / kMapCellPx, y = view.m_nScrollY + py / kMapCellPx;
-  if (inside && (x >= g_Stage.m_nWidth || y >= g_Stage.m_nHeight)) return;
-  x = std::min(x, g_Stage.m_nWidth - 1);
-  y = std::min(y, g_Stage.m_nHeight - 1);
-  g_Cursor.Top() = {x, y, px - px % kMapCellPx, py - py % kMapCellPx};
+  const cViewCell cell = ViewCellAt(view, px, py);
+  if (cell.inside && (cell.x >= g_Stage.m_nWidth || cell.y >= g_Stage.m_nHeight)) return;
+  const int x = std::min(cell.x, g_Stage.m_nWidth - 1), y = std::min(cell.y, g_Stage.m_nHeight - 1);
+  g_Cursor.Top() = {x, y, cell.px, cell.py};
   view.m_nCursorX = x;
   view.m_nCursorY = y;
 }
@@ -380,22 +361,7 @@ void ClearHistory() {
 void ChangePalette(int palette) {
   cEditState& es = ES();
   if (palette < 0 || palette >= cEditState::kPaletteCount) return;
-  if (palette != es.m_nPalette) {
-    int* saved = es.m_aPaletteState[es.m_nPalette];
-    saved[PALSTATE_TOOL] = es.m_nTool;
-    saved[PALSTATE_CURSOR_SHAPE] = es.m_nCursorShape;
-    saved[PALSTATE_SELECTED] = es.m_nSelected;
-    saved[PALSTATE_LIST_SEL] = es.m_nListSel;
-    saved[PALSTATE_BRUSH_W] = es.m_nBrushW;
-    saved[PALSTATE_BRUSH_H] = es.m_nBrushH;
-    const int* load = es.m_aPaletteState[palette];
-    es.m_nTool = load[PALSTATE_TOOL];
-    es.m_nCursorShape = load[PALSTATE_CURSOR_SHAPE];
-    es.m_nSelected = load[PALSTATE_SELECTED];
-    es.m_nListSel = load[PALSTATE_LIST_SEL];
-    es.m_nBrushW = load[PALSTATE_BRUSH_W];
-    es.m_nBrushH = load[PALSTATE_BRUSH_H];
-  }
+  SwapPaletteState(es, palette);
   es.m_nPalette = palette;
   g_pHost->UpdateCommands();
   if (es.m_bStageOpen) g_pHost->ShowPalette(palette);

@@ -15,6 +15,7 @@ target_sources(ortalune_core PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/stage_snapshot.cpp
   ${CMAKE_CURRENT_LIST_DIR}/stage_view_draw.cpp
   ${CMAKE_CURRENT_LIST_DIR}/undo_history.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/world_edit.cpp
   ${CMAKE_CURRENT_LIST_DIR}/world_edit_state.cpp
   ${CMAKE_CURRENT_LIST_DIR}/world_event.cpp
   ${CMAKE_CURRENT_LIST_DIR}/world_map.cpp

@@ -12,6 +12,9 @@ void cWorldEditState::Reset() {
   m_nDragX = m_nDragY = -1;
   m_nBrushW = m_nBrushH = 1;
   m_bPicking = 0;
+  m_pEditEvent = nullptr;
+  m_eDrag = eMapDrag::kIdle;
+  m_History.Clear();
   m_PutEvent = g_WorldMap.m_vecEventPlt.empty() ? cWorldEvent() : g_WorldMap.m_vecEventPlt[0];
 
   const int chosen = g_WorldMap.m_vecEvent.empty() ? -1 : 0, brush = chosen < 0 ? 0 : 1;

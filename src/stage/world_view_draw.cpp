@@ -1,6 +1,7 @@
 #include "stage/world_view_draw.h"
 
 #include "project/project_globals.h"
+#include "stage/chip_palette.h"
 #include "stage/world_edit_state.h"
 
 namespace {
@@ -11,10 +12,7 @@ void DrawChips(cSurface& buffer, const MAP_VIEW& view) {
     for (int c = 0; c < view.Cols(); ++c) {
       const int* cell = map.CellAt(view.m_nScrollX + c, view.m_nScrollY + r);
       if (cell == nullptr || *cell < 0 || *cell >= static_cast<int>(map.m_vecChip.size())) continue;
-      const int g = map.m_vecChip[static_cast<std::size_t>(*cell)].m_nGraphic;
-      if (g >= 0)
-        BlitSheetCell(buffer, c * kMapCellPx, r * kMapCellPx, g_aSheet[SHEET_WORLD_CHIP], (g % 8) * kMapCellPx,
-                      (g / 8) * static_cast<long long>(kMapCellPx));
+      WorldChipFace().draw(buffer, c * kMapCellPx, r * kMapCellPx, *cell);
     }
 }
 

@@ -16,6 +16,7 @@ target_sources(ortalune_gui_tests PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/stage_forms_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/testplay_form_test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/test_play_run_test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/world_map_editor_test.cpp
 )
 target_compile_definitions(ortalune_gui_tests PRIVATE ORTALUNE_TEMPLATE_DIR="${CMAKE_BINARY_DIR}/share/ortalune/template")
 add_dependencies(ortalune_gui_tests ortalune-template)
