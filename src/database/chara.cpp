@@ -79,8 +79,8 @@ int cChara::Serialize(int op, const cSerial* other, cSerialFile* file, std::uint
     SERIAL_FIELD(SerialVectorVector(op, m_vecvecSenseBase, OTHER(m_vecvecSenseBase), file));
     SERIAL_FIELD(SerialVectorVector(op, m_vecvecSenseAdd, OTHER(m_vecvecSenseAdd), file));
   }
-  SERIAL_FIELD(SerialRecordVectorVector(op, m_vecvecSlot, OTHER(m_vecvecSlot), file));
-  SERIAL_FIELD(SerialRecordVectorVector(op, m_vecvecReserve, OTHER(m_vecvecReserve), file));
+  SERIAL_FIELD(SerialSharedRecordVectorVector(op, m_vecvecSlot, OTHER(m_vecvecSlot), file));
+  SERIAL_FIELD(SerialSharedRecordVectorVector(op, m_vecvecReserve, OTHER(m_vecvecReserve), file));
   SERIAL_FIELD(SerialRecordVector(op, m_vecLearnSkill, OTHER(m_vecLearnSkill), file));
 #undef ARRAY
   return 1;
@@ -95,15 +95,15 @@ void cChara::SetDefault() {
     m_aParam[i].m_nType = i;
   }
   for (SENSE_TABLE* sense : {&m_vecvecSense, &m_vecvecSenseBase, &m_vecvecSenseAdd}) sense->clear();
-  m_vecvecSlot.clear();
-  m_vecvecReserve.clear();
+  m_vecvecSlot.Clear();
+  m_vecvecReserve.Clear();
   m_vecLearnSkill.clear();
 }
 
 void cChara::DropDerivedTables() {
   for (SENSE_TABLE* sense : {&m_vecvecSense, &m_vecvecSenseBase, &m_vecvecSenseAdd}) sense->clear();
-  m_vecvecSlot.clear();
-  m_vecvecReserve.clear();
+  m_vecvecSlot.Clear();
+  m_vecvecReserve.Clear();
   for (int i = 0; i < kStatusCount; ++i) {
     m_avecGrow[i].clear();
     m_avecRandomGrow[i].clear();
@@ -120,8 +120,8 @@ SKILL_HOLDER cChara::Holder() {
   holder.nClass = m_nClass;
   holder.bEnemy = m_bEnemy != 0;
   holder.pSense = &m_vecvecSense;
-  holder.pSlots = &m_vecvecSlot;
-  holder.pReserve = &m_vecvecReserve;
+  holder.pSlots = &m_vecvecSlot.Edit();
+  holder.pReserve = &m_vecvecReserve.Edit();
   holder.recalcStatus = [this] { RecalcStatus(); };
   return holder;
 }
@@ -154,32 +154,36 @@ void cChara::FixRefs() {
 
   BuildPlaces(0);
 
-  for (std::size_t list = 0; list < m_vecvecSlot.size(); ++list) {
+  PLACE_TABLE& slots = m_vecvecSlot.Edit();
+  PLACE_TABLE& reserve = m_vecvecReserve.Edit();
+  for (std::size_t list = 0; list < slots.size(); ++list) {
     const int rows = SkillRows(static_cast<int>(list));
-    for (cAcqSkill& place : m_vecvecSlot[list]) {
+    for (cAcqSkill& place : slots[list]) {
       if (place.m_nSkill >= rows) place.m_nSkill = 0;
     }
-    std::erase_if(m_vecvecReserve[list], [rows](const cAcqSkill& place) { return place.m_nSkill >= rows; });
+    std::erase_if(reserve[list], [rows](const cAcqSkill& place) { return place.m_nSkill >= rows; });
   }
   std::erase_if(m_vecLearnSkill, [](const cLearnSkill& learn) {
     return !InRange(learn.m_nList, g_vecSkillList.Count()) || !InRange(learn.m_nSkill, SkillRows(learn.m_nList));
   });
   for (auto& equip : m_anEquip) {
     if (!InRange(equip[0], g_vecSkillList.Count())) equip[0] = 0;
-    const int places = InRange(equip[0], m_vecvecSlot.Count()) ? m_vecvecSlot[static_cast<std::size_t>(equip[0])].Count() : 0;
+    const int places = InRange(equip[0], slots.Count()) ? slots[static_cast<std::size_t>(equip[0])].Count() : 0;
     if (equip[1] >= places) equip[1] = 0;
   }
 }
 
 void cChara::BuildPlaces(int bClear) {
-  if (bClear) m_vecvecSlot.clear();
+  PLACE_TABLE& slots = m_vecvecSlot.Edit();
+  PLACE_TABLE& reserve = m_vecvecReserve.Edit();
+  if (bClear) slots.clear();
   const std::size_t lists = g_vecSkillList.size();
-  m_vecvecSlot.resize(lists);
-  m_vecvecReserve.resize(lists);
+  slots.resize(lists);
+  reserve.resize(lists);
   const cClass* cls = Class();
   for (std::size_t list = 0; list < lists; ++list) {
     const cSkillList& rules = g_vecSkillList[list];
-    VECTOR_CLASS<cAcqSkill>& places = m_vecvecSlot[list];
+    VECTOR_CLASS<cAcqSkill>& places = slots[list];
     const VECTOR_CLASS<cSlot>* source = nullptr;
     cSlot freeSlot;  // the rules of a free place: any category, all symbols shown
     bool keep = false;
@@ -202,8 +206,8 @@ void cChara::BuildPlaces(int bClear) {
     }
     // The reserve keeps its skills across repairs; only a clearing build empties it.
     if (!m_bEnemy && rules.m_bReserve) {
-      m_vecvecReserve[list].resize(static_cast<std::size_t>(std::max(rules.m_nReserveMax, 0)));
-      if (bClear) std::fill(m_vecvecReserve[list].begin(), m_vecvecReserve[list].end(), cAcqSkill());
+      reserve[list].resize(static_cast<std::size_t>(std::max(rules.m_nReserveMax, 0)));
+      if (bClear) std::fill(reserve[list].begin(), reserve[list].end(), cAcqSkill());
     }
   }
 }

@@ -10,6 +10,7 @@
 #include "database/chara_class.h"
 #include "database/skill_acquisition.h"
 #include "kernel/serial.h"
+#include "kernel/shared_table.h"
 #include "kernel/vector_class.h"
 
 // A skill a character learns on reaching a level.
@@ -113,8 +114,9 @@ class cChara : public cSerial {
   SENSE_TABLE m_vecvecSense;
   SENSE_TABLE m_vecvecSenseBase;
   SENSE_TABLE m_vecvecSenseAdd;
-  PLACE_TABLE m_vecvecSlot;
-  PLACE_TABLE m_vecvecReserve;
+  // Shared by copies until one changes them: they are most of a character's memory.
+  cSharedTable<PLACE_TABLE> m_vecvecSlot;
+  cSharedTable<PLACE_TABLE> m_vecvecReserve;
   VECTOR_CLASS<cLearnSkill> m_vecLearnSkill;
 };
 

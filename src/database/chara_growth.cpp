@@ -339,16 +339,18 @@ void cChara::RecalcStatus() {
       }
     }
   };
+  // The places are read where they may be shared; only the one change below edits them.
   auto forEachPlace = [&](auto visit) {
-    for (std::size_t list = 0; list < m_vecvecSlot.size(); ++list) {
-      for (cAcqSkill& place : m_vecvecSlot[list]) {
-        const cSkill* skill = FindSkill(static_cast<int>(list), place.m_nSkill);
-        if (skill != nullptr) visit(place, *skill);
+    const PLACE_TABLE& slots = *m_vecvecSlot;
+    for (std::size_t list = 0; list < slots.size(); ++list) {
+      for (std::size_t i = 0; i < slots[list].size(); ++i) {
+        const cSkill* skill = FindSkill(static_cast<int>(list), slots[list][i].m_nSkill);
+        if (skill != nullptr) visit(list, i, slots[list][i], *skill);
       }
     }
   };
 
-  forEachPlace([&](cAcqSkill&, const cSkill& skill) {
+  forEachPlace([&](std::size_t, std::size_t, const cAcqSkill&, const cSkill& skill) {
     if (skill.m_nKind == 7) m_aParam[2].m_nValue = ClampStatus(static_cast<long long>(m_aParam[2].m_nValue) + skill.m_nEffectValue, 2);
     if (skill.m_nKind == 8) m_aParam[4].m_nValue = ClampStatus(static_cast<long long>(m_aParam[4].m_nValue) + skill.m_nEffectValue, 4);
     if (IsEquipmentKind(skill.m_nKind)) applyEffect(skill.m_anSubEffectA, skill.m_bSubEffectAPercent);
@@ -356,13 +358,13 @@ void cChara::RecalcStatus() {
   if (g_System.m_nBattleMode != kAutoBattle) return;
 
   bool checked = false;
-  forEachPlace([&](cAcqSkill& place, const cSkill& skill) {
+  forEachPlace([&](std::size_t list, std::size_t i, const cAcqSkill& place, const cSkill& skill) {
     if (checked || !place.m_bEquip) return;
     checked = true;
     const bool active = skill.m_nID != 0 && !IsEquipmentKind(skill.m_nKind) && skill.m_bUseBattleSkill;
-    if (!active) place.m_bEquip = 0;
+    if (!active) m_vecvecSlot.Edit()[list][i].m_bEquip = 0;
   });
-  forEachPlace([&](cAcqSkill& place, const cSkill& skill) {
+  forEachPlace([&](std::size_t, std::size_t, const cAcqSkill& place, const cSkill& skill) {
     if (place.m_bEquip && !IsEquipmentKind(skill.m_nKind)) applyEffect(skill.m_anSubEffectB, skill.m_bSubEffectBPercent);
   });
 }

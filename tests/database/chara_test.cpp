@@ -104,13 +104,42 @@ TEST_F(CharaTest, EnemyDropsTheFieldsOfVersions33And44Only) {
   EXPECT_TRUE(Compare(LoadedFrom<cFriend>(SavedStream(ally)), ally));
 }
 
+// A copy of a character (what a page of the database sheet works on) shares the places
+// until one side changes them; then only that side changes, in memory and in its file.
+TEST_F(CharaTest, CopiesShareThePlacesUntilOneOfThemChangesThem) {
+  cFriend ally;
+  ally.FixRefs();
+  ASSERT_EQ((*ally.m_vecvecSlot)[0].size(), 200u);
+  const std::vector<unsigned char> saved = SavedStream(ally);
+
+  cFriend byValue = ally;
+  cFriend byWalk;
+  byWalk.Copy(ally);
+  EXPECT_TRUE(byValue.m_vecvecSlot.SharesWith(ally.m_vecvecSlot));
+  EXPECT_TRUE(byWalk.m_vecvecReserve.SharesWith(ally.m_vecvecReserve));
+  EXPECT_EQ(SavedStream(byWalk), saved);
+
+  byValue.m_vecvecSlot.Edit()[0][0].m_nSkill = 1;
+  byWalk.FixRefs();  // a repair edits its own places
+  EXPECT_FALSE(byValue.m_vecvecSlot.SharesWith(ally.m_vecvecSlot));
+  EXPECT_FALSE(byWalk.m_vecvecSlot.SharesWith(ally.m_vecvecSlot));
+  EXPECT_EQ((*ally.m_vecvecSlot)[0][0].m_nSkill, 0);
+  EXPECT_EQ(SavedStream(ally), saved);
+  EXPECT_NE(SavedStream(byValue), saved);
+
+  // A read from a file gives a record places of its own.
+  cFriend read = LoadedFrom<cFriend>(SavedStream(byValue));
+  EXPECT_EQ((*read.m_vecvecSlot)[0][0].m_nSkill, 1);
+  EXPECT_FALSE(read.m_vecvecSlot.SharesWith(byValue.m_vecvecSlot));
+}
+
 TEST_F(CharaTest, RepairsReferencesIntoDeletedRows) {
   cFriend ally;
   ally.m_nClass = 7, ally.m_nMoneyVal = 4, ally.m_nCompatiType = 2, ally.m_nLevel = 50;
-  ally.m_vecvecReserve.resize(2);
-  ally.m_vecvecReserve[1].resize(2);
-  ally.m_vecvecReserve[1][0].m_nSkill = 1;
-  ally.m_vecvecReserve[1][1].m_nSkill = 9;  // past the two skill rows
+  ally.m_vecvecReserve.Edit().resize(2);
+  ally.m_vecvecReserve.Edit()[1].resize(2);
+  ally.m_vecvecReserve.Edit()[1][0].m_nSkill = 1;
+  ally.m_vecvecReserve.Edit()[1][1].m_nSkill = 9;  // past the two skill rows
   ally.m_vecLearnSkill.resize(3);
   ally.m_vecLearnSkill[1].m_nList = 2;
   ally.m_vecLearnSkill[2].m_nSkill = 2;
@@ -121,8 +150,8 @@ TEST_F(CharaTest, RepairsReferencesIntoDeletedRows) {
   EXPECT_EQ(std::make_tuple(ally.m_avecGrow[8].size(), ally.m_vecvecSense[1].size(), ally.m_vecLearnSkill.size()),
             std::make_tuple(30u, 3u, 1u));
   // The reserve keeps its valid skills across a repair; the stale place is erased.
-  ASSERT_EQ(ally.m_vecvecReserve[1].size(), 199u);
-  EXPECT_EQ(std::tie(ally.m_vecvecReserve[1][0].m_nSkill, ally.m_vecvecReserve[1][1].m_nSkill), std::make_tuple(1, 0));
+  ASSERT_EQ((*ally.m_vecvecReserve)[1].size(), 199u);
+  EXPECT_EQ(std::tie((*ally.m_vecvecReserve)[1][0].m_nSkill, (*ally.m_vecvecReserve)[1][1].m_nSkill), std::make_tuple(1, 0));
   // List 0 has 200 free places.
   EXPECT_EQ(std::tie(ally.m_anEquip[0][0], ally.m_anEquip[0][1], ally.m_anEquip[1][1]), std::make_tuple(0, 3, 150));
 
@@ -139,34 +168,34 @@ TEST_F(CharaTest, PlacesFollowTheSlotTypeOfEachList) {
   g_vecSkillList[0].m_vecSlot[2].m_nEmptySymbol = 7;
   g_vecSkillList[1].m_nSlotType = kSlotNone;
   cEnemy enemy;
-  enemy.m_vecvecSlot.assign(2, VECTOR_CLASS<cAcqSkill>(4));
-  enemy.m_vecvecSlot[0][0].m_nSkill = 1;
-  enemy.m_vecvecSlot[1][0].m_nSkill = 1;
-  enemy.m_vecvecReserve.clear();
+  enemy.m_vecvecSlot.Edit().assign(2, VECTOR_CLASS<cAcqSkill>(4));
+  enemy.m_vecvecSlot.Edit()[0][0].m_nSkill = 1;
+  enemy.m_vecvecSlot.Edit()[1][0].m_nSkill = 1;
+  enemy.m_vecvecReserve.Clear();
   enemy.BuildPlaces(0);
-  ASSERT_EQ(enemy.m_vecvecSlot[0].size(), 3u);
-  EXPECT_EQ(enemy.m_vecvecSlot[0][0].m_nSkill, 1);  // kept without bClear
-  EXPECT_EQ(enemy.m_vecvecSlot[0][2].m_Slot.m_nEmptySymbol, 7);
-  ASSERT_EQ(enemy.m_vecvecSlot[1].size(), 1u);
-  EXPECT_EQ(enemy.m_vecvecSlot[1][0].m_nSkill, 0);  // type 2 always clears its one place
-  EXPECT_TRUE(enemy.m_vecvecReserve[0].empty());    // enemies have no reserve
+  ASSERT_EQ((*enemy.m_vecvecSlot)[0].size(), 3u);
+  EXPECT_EQ((*enemy.m_vecvecSlot)[0][0].m_nSkill, 1);  // kept without bClear
+  EXPECT_EQ((*enemy.m_vecvecSlot)[0][2].m_Slot.m_nEmptySymbol, 7);
+  ASSERT_EQ((*enemy.m_vecvecSlot)[1].size(), 1u);
+  EXPECT_EQ((*enemy.m_vecvecSlot)[1][0].m_nSkill, 0);  // type 2 always clears its one place
+  EXPECT_TRUE((*enemy.m_vecvecReserve)[0].empty());    // enemies have no reserve
 
   // The class's own slots replace the list's; an empty own vector keeps the places.
   cOrgSlotList& own = g_vecClass[1].m_vecOrgSlot[0];
   own.m_bOwn = 1;
   own.m_vecSlot.resize(5);
   enemy.BuildPlaces(1);
-  EXPECT_EQ(enemy.m_vecvecSlot[0].size(), 5u);
-  EXPECT_EQ(enemy.m_vecvecSlot[0][0].m_nSkill, 0);
+  EXPECT_EQ((*enemy.m_vecvecSlot)[0].size(), 5u);
+  EXPECT_EQ((*enemy.m_vecvecSlot)[0][0].m_nSkill, 0);
   own.m_vecSlot.clear();
   enemy.BuildPlaces(0);
-  EXPECT_EQ(enemy.m_vecvecSlot[0].size(), 5u);
+  EXPECT_EQ((*enemy.m_vecvecSlot)[0].size(), 5u);
 
   g_vecSkillList[0].m_nSlotType = kSlotUnlimited;
   g_vecSkillList[0].m_nFreeSlots = 4;
   enemy.BuildPlaces(0);
-  ASSERT_EQ(enemy.m_vecvecSlot[0].size(), 4u);
-  EXPECT_EQ(enemy.m_vecvecSlot[0][3].m_Slot.m_bAnyCateg, 1);
+  ASSERT_EQ((*enemy.m_vecvecSlot)[0].size(), 4u);
+  EXPECT_EQ((*enemy.m_vecvecSlot)[0][3].m_Slot.m_bAnyCateg, 1);
 }
 
 TEST_F(CharaTest, GrowthCarriesFractionsFromLevelToLevel) {

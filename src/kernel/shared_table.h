@@ -1,0 +1,60 @@
+#pragma once
+// A large table inside a record that copies of the record share until one of them
+// changes it. A character holds a place per slot of every skill list, so that a copy of
+// an ally table (what a page of the database sheet works on) would copy hundreds of
+// megabytes which the page never edits; with the places shared, the copy is cheap and
+// only a character whose places change pays for its own.
+//
+// Reading goes through * and ->; writing only through Edit(), which first gives this
+// record a table of its own when another shares it. The compiler keeps every write on
+// that path.
+
+#include <memory>
+
+#include "kernel/serial.h"
+#include "kernel/serial_fields.h"
+
+template <class T>
+class cSharedTable {
+ public:
+  const T& operator*() const { return m_p ? *m_p : Empty(); }
+  const T* operator->() const { return &**this; }
+
+  T& Edit() {
+    if (!m_p) m_p = std::make_shared<T>();
+    else if (m_p.use_count() > 1) m_p = std::make_shared<T>(*m_p);
+    return *m_p;
+  }
+  void Clear() { m_p.reset(); }
+
+  // Whether `other` holds the very same table (not merely an equal one).
+  bool SharesWith(const cSharedTable& other) const { return m_p != nullptr && m_p == other.m_p; }
+
+ private:
+  static const T& Empty() {
+    static const T empty;
+    return empty;
+  }
+  std::shared_ptr<T> m_p;
+};
+
+// The field function of a shared table of record vectors: a copy shares, writing and
+// comparing only read, and every other operation edits this record's own table.
+template <class T>
+int SerialSharedRecordVectorVector(int op, cSharedTable<VECTOR_CLASS<VECTOR_CLASS<T>>>& f,
+                                   const cSharedTable<VECTOR_CLASS<VECTOR_CLASS<T>>>* o, cSerialFile* file) {
+  using Table = VECTOR_CLASS<VECTOR_CLASS<T>>;
+  switch (op) {
+    case SERIAL_INIT: f.Clear(); return 1;
+    case SERIAL_COPY:
+      if (o != nullptr) f = *o;
+      return 1;
+    case SERIAL_WRITE:
+    case SERIAL_COMPARE:
+    case SERIAL_NAME:
+    case SERIAL_DESCRIBE:
+      // These leave the table as it is; the field function only takes it by reference.
+      return SerialRecordVectorVector<T>(op, const_cast<Table&>(*f), o != nullptr ? &**o : nullptr, file);
+    default: return SerialRecordVectorVector<T>(op, f.Edit(), o != nullptr ? &**o : nullptr, file);
+  }
+}
