@@ -3,7 +3,10 @@
 // row only, the kind table as the page shows it, the spreadsheet round trip, and the
 // database sheet's Cancel after all of it.
 
+#include <QCheckBox>
 #include <QComboBox>
+#include <QFontDatabase>
+#include <QLabel>
 
 #include "app/idle_frame.h"
 #include "database/skill_csv_exchange.h"
@@ -125,12 +128,54 @@ TEST_F(SkillPagesTest, TheSkillSheetDisablesTheDatabaseSheetAndItsCancelLeavesTh
   EXPECT_EQ(DatabaseFiles(), m_Saved);
 }
 
+// The font the editor sets for its whole run, for the tests of what fits the screen:
+// the platform of the tests would lay the sheets out in its own wider default.
+class cEditorFont {
+ public:
+  cEditorFont() {
+    if (QFontDatabase::hasFamily(QStringLiteral("IPAPGothic"))) QApplication::setFont(QFont(QStringLiteral("IPAPGothic"), 9));
+  }
+  ~cEditorFont() { QApplication::setFont(m_Saved); }
+
+ private:
+  QFont m_Saved = QApplication::font();
+};
+
 TEST_F(SkillPagesTest, BothSheetsFitAScreenOf1024By768) {
+  const cEditorFont font;
   ASSERT_NE(OpenSkills(), nullptr);
   for (QWidget* sheet : {m_pSheet->m_hWnd.data(), Lists()->SkillSheet()->m_hWnd.data()}) {
     const QSize least = sheet->minimumSizeHint();
     EXPECT_LE(least.width(), 1024);
     EXPECT_LE(least.height(), 768 - 40) << "and room for a title bar";
+  }
+}
+
+// The skill page shows every field at once: it has no scroll bars, and at the sheet's
+// least size no text is cut, in its labels, checks, buttons or combos, and nothing
+// stands beyond the page's edge, for a magic attack and for a weapon alike.
+TEST_F(SkillPagesTest, TheSkillPageShowsEveryFieldWholeAtItsLeastSize) {
+  const cEditorFont font;
+  DLG_DBSKILL* page = OpenSkills();
+  ASSERT_NE(page, nullptr);
+  EXPECT_EQ(page->ScrollArea(), nullptr);
+  QWidget* sheet = Lists()->SkillSheet()->m_hWnd;
+  sheet->resize(sheet->minimumSizeHint());
+  for (int row : {kMagicRow, kWeaponRow}) {
+    Select(*page, row);
+    QApplication::processEvents();
+    const QRect inside = page->m_hWnd->rect();
+    for (QWidget* w : page->m_hWnd->findChildren<QWidget*>()) {
+      if (!w->isVisible()) continue;
+      const std::string name = w->accessibleName().toStdString();
+      EXPECT_TRUE(inside.contains(QRect(w->mapTo(page->m_hWnd, QPoint(0, 0)), w->size()))) << name << " on row " << row;
+      int need = 0;
+      if (auto* label = qobject_cast<QLabel*>(w)) need = label->minimumSizeHint().width();
+      else if (auto* check = qobject_cast<QCheckBox*>(w)) need = check->sizeHint().width();
+      else if (auto* button = qobject_cast<QPushButton*>(w)) need = button->sizeHint().width();
+      else if (auto* combo = qobject_cast<QComboBox*>(w)) need = combo->fontMetrics().horizontalAdvance(combo->currentText()) + 24;
+      EXPECT_GE(w->width(), need) << "cut: " << name << " \"" << w->property("text").toString().toStdString() << "\" on row " << row;
+    }
   }
 }
 

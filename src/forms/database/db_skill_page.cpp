@@ -70,9 +70,9 @@ DLG_DBSKILL::DLG_DBSKILL(cSkillSheetList list)
   NamesFrom(m_vecEffectAnimNames, g_Database.m_vecEffectAnimPat, 1);
   NamesFrom(m_vecSoundNames, g_Database.m_vecSound, 1);
 
-  // Every field of a skill is more than a screen of 1024 by 768 holds side by side:
-  // the page scrolls within a window that fits one.
-  SetMetrics(kShownWidth, kShownHeight, kShownWidth, kShownHeight, 0, 0, kDlgScrollH | kDlgScrollV);
+  // Four columns that a screen of 1024 by 768 shows whole: the list over the
+  // sub-effects, which are as wide as its buttons; the longest labels of the narrow
+  // groups stand above their controls.
   cSkill& E = m_Edit;
   cFormTable& F = Table();
   F.Column();
@@ -80,24 +80,17 @@ DLG_DBSKILL::DLG_DBSKILL(cSkillSheetList list)
   F.Button(kCsvSave, "CSVファイルに保存").Span(3).Row();
   F.Button(kCsvRead, "CSVファイルの読込").Span(3).Row();
 
-  F.Group("習得");
-  F.EditVal(kLearnRate, "習得確率(%)", &E.m_nLearnRate, 0, 100, 1, kLearnRateSpin).Row();
-  F.Text("※センスが0なら0％", 4).Row();
-  F.EditVal(kLearnRateSense, "＋センス×", &E.m_dLearnRateSense, 0.0, 100.0, 0.1).Row();
-  F.EditVal(kLearnLvMin, "習得LV", &E.m_nLearnLvMin, 0, 100);
-  F.EditVal(kLearnLvMax, "～", &E.m_nLearnLvMax, 0, 100).Row();
-  F.EditVal(kLearnLvSense, "－センス×", &E.m_dLearnLvSense, 0.0, 100.0, 0.1).Row();
-  F.EditVal(kRankMin, "ランク", &E.m_nRankMin, 0, 999);
-  F.EditVal(kRankMax, "～", &E.m_nRankMax, 0, 999).Row();
-  F.EditVal(kRarity, "レアリティ", &E.m_nRarity, 0, 100).Row();
-  F.EndGroup();
-
-  F.Group("使用");
-  F.Check(kUseMapSkill, "マップパートの「スキル」で使用可", &E.m_bUseMapSkill).Row();
-  F.Check(kUseMapStock, "マップパートの「ストック」で使用可", &E.m_bUseMapStock).Row();
-  F.Check(kUseBattleSkill, "戦闘パートの「スキル」で使用可", &E.m_bUseBattleSkill).Row();
-  F.Check(kUseBattleQuick, "戦闘パートの「クイック」で使用可", &E.m_bUseBattleQuick).Row();
-  F.Check(kUseBattleStock, "戦闘パートの「ストック」で使用可", &E.m_bUseBattleStock).Row();
+  F.Group("サブ効果");
+  F.Skip().Text("サブ効果A").Text("サブ効果B").Row();
+  F.Skip();
+  F.Check(kSubAPercent, "％で指定↓", &E.m_bSubEffectAPercent);
+  F.Check(kSubBPercent, "％で指定↓", &E.m_bSubEffectBPercent).Row();
+  for (int s = 0; s < kStatusCount; ++s) {
+    F.EditVal(kSubA + s, kSystemStatusLabels[s], &E.m_anSubEffectA[s], -999999, 999999);
+    F.EditVal(kSubB + s, "", &E.m_anSubEffectB[s], -999999, 999999).Named(kSystemStatusLabels[s]).Row();
+  }
+  F.Text("サブ効果A：☆スキルの対象への追加効果\n（武器防具なら自分）", 3).Row();
+  F.Text("サブ効果B：☆オート戦闘で「装備」時のみ上昇", 3).Row();
   F.EndGroup();
   F.Column();
   F.Group("基本");
@@ -106,19 +99,19 @@ DLG_DBSKILL::DLG_DBSKILL(cSkillSheetList list)
   F.EditStr(kDesc, "説明", &E.m_strDesc, {.nLimit = 38, .nLineLen = 13, .nMaxLines = 1, .bWide = 1}).Span(2).Row();
   F.Combo(kKind, "種類", &E.m_nKind, kSkillKindLabels).Span(2).Row();
   F.Combo(kTarget, "対象", &E.m_nTarget, kSkillTargetLabels).Span(2).Row();
-  F.Combo(kWeapon, "対応する武器スキル", &E.m_nWeaponType, kSkillWeaponLabels).Span(2).Row();
+  F.Combo(kWeapon, "対応する武器スキル", &E.m_nWeaponType, kSkillWeaponLabels).LabelAbove().Span(3).Row();
   F.Combo(kCateg, "カテゴリー", &E.m_nCateg, &m_vecCategNames).KeepWithoutRow().Span(2).Row();
   F.EndGroup();
   F.Group("エフェクト");
   F.Check(kEffectOfWeapon, "武器スキルのエフェクトと同じ", &E.m_bEffectOfWeapon).Span(3).Row();
   F.EditVal(kEffect, "エフェクト", &E.m_nEffect, 1, 127, 1, kEffectSpin);
-  F.Button(kEffectList, "一覧");
-  F.Picture(kPreview, "エフェクト", kPreviewSide, kPreviewSide).Row();
-  F.Combo(kEffectAnim, "エフェクトアニメ", &E.m_nEffectAnim, &m_vecEffectAnimNames, nullptr, 1).KeepWithoutRow().Span(2).Row();
+  F.Button(kEffectList, "一覧").Row();
+  F.Combo(kEffectAnim, "エフェクトアニメ", &E.m_nEffectAnim, &m_vecEffectAnimNames, nullptr, 1).KeepWithoutRow().LabelAbove().Span(2).Row();
   F.Combo(kCharaAnim, "キャラアニメ", &E.m_nCharaAnim, &m_vecCharaAnimNames, nullptr, 1).KeepWithoutRow().Span(2).Row();
   F.Combo(kSound, "効果音", &E.m_nSound, &m_vecSoundNames, nullptr, 1).KeepWithoutRow().Span(2).Row();
-  F.EditVal(kScale, "拡大率(%)", &E.m_nScale, 1, 900, 1, kScaleSpin).Row();
-  F.EditVal<std::uint8_t>(kAlpha, "透明度(255で不透明)", &E.m_byAlpha, 0, 255, 1, kAlphaSpin).Row();
+  F.EditVal(kScale, "拡大率(%)", &E.m_nScale, 1, 900, 1, kScaleSpin);
+  F.Picture(kPreview, "エフェクト", kPreviewSide, kPreviewSide).Row();
+  F.EditVal<std::uint8_t>(kAlpha, "透明度(255で不透明)", &E.m_byAlpha, 0, 255, 1, kAlphaSpin).LabelAbove().Span(2).Row();
   F.EditVal<std::int16_t>(kHue, "色相", &E.m_sHue, -359, 359, 1, kHueSpin);
   F.Text("☆0が原色").Row();
   F.EditVal<std::int16_t>(kSat, "彩度", &E.m_sSaturation, -255, 255, 1, kSatSpin);
@@ -149,22 +142,29 @@ DLG_DBSKILL::DLG_DBSKILL(cSkillSheetList list)
   F.Check(kUnlimited, "無制限", &E.m_bUnlimited).Row();
   F.EndGroup();
   F.Group("習得条件");
-  F.EditVal(kNeedSense, "必要センス(習得条件)", &E.m_nNeedSense, 0, 99, 1, kNeedSenseSpin).Span(2).Row();
+  F.EditVal(kNeedSense, "必要センス(習得条件)", &E.m_nNeedSense, 0, 99, 1, kNeedSenseSpin).LabelAbove().Span(3).Row();
   F.Combo(kLearnClass, "習得クラス", &E.m_nLearnClass, &m_vecClassNames).KeepWithoutRow().Span(2).Row();
   F.Check(kNoForget, "忘れる不可", &E.m_bNoForget).Span(2).Row();
   F.EndGroup();
   F.Column();
-  F.Group("サブ効果");
-  F.Skip().Text("サブ効果A").Text("サブ効果B").Row();
-  F.Skip();
-  F.Check(kSubAPercent, "％で指定↓", &E.m_bSubEffectAPercent);
-  F.Check(kSubBPercent, "％で指定↓", &E.m_bSubEffectBPercent).Row();
-  for (int s = 0; s < kStatusCount; ++s) {
-    F.EditVal(kSubA + s, kSystemStatusLabels[s], &E.m_anSubEffectA[s], -999999, 999999);
-    F.EditVal(kSubB + s, "", &E.m_anSubEffectB[s], -999999, 999999).Named(kSystemStatusLabels[s]).Row();
-  }
-  F.Text("サブ効果A：☆スキルの対象への追加効果\n（武器防具なら自分）", 3).Row();
-  F.Text("サブ効果B：☆オート戦闘で「装備」時のみ上昇", 3).Row();
+  F.Group("習得");
+  F.EditVal(kLearnRate, "習得確率(%)", &E.m_nLearnRate, 0, 100, 1, kLearnRateSpin).Row();
+  F.Text("※センスが0なら0％", 4).Row();
+  F.EditVal(kLearnRateSense, "＋センス×", &E.m_dLearnRateSense, 0.0, 100.0, 0.1).Row();
+  F.EditVal(kLearnLvMin, "習得LV", &E.m_nLearnLvMin, 0, 100);
+  F.EditVal(kLearnLvMax, "～", &E.m_nLearnLvMax, 0, 100).Row();
+  F.EditVal(kLearnLvSense, "－センス×", &E.m_dLearnLvSense, 0.0, 100.0, 0.1).Row();
+  F.EditVal(kRankMin, "ランク", &E.m_nRankMin, 0, 999);
+  F.EditVal(kRankMax, "～", &E.m_nRankMax, 0, 999).Row();
+  F.EditVal(kRarity, "レアリティ", &E.m_nRarity, 0, 100).Row();
+  F.EndGroup();
+
+  F.Group("使用");
+  F.Check(kUseMapSkill, "マップパートの「スキル」で使用可", &E.m_bUseMapSkill).Row();
+  F.Check(kUseMapStock, "マップパートの「ストック」で使用可", &E.m_bUseMapStock).Row();
+  F.Check(kUseBattleSkill, "戦闘パートの「スキル」で使用可", &E.m_bUseBattleSkill).Row();
+  F.Check(kUseBattleQuick, "戦闘パートの「クイック」で使用可", &E.m_bUseBattleQuick).Row();
+  F.Check(kUseBattleStock, "戦闘パートの「ストック」で使用可", &E.m_bUseBattleStock).Row();
   F.EndGroup();
   F.Group("ショップ・ストック");
   F.EditVal(kPrice, "値段", &E.m_nPrice, 0, 999999, 1, kPriceSpin).Row();

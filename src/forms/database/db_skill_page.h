@@ -43,7 +43,6 @@ class DLG_DBSKILL : public cTablePage<cSkill> {
     kSubB = 1810,  // the same for sub-effect B
   };
   static constexpr int kPreviewSide = 64;
-  static constexpr int kShownWidth = 960, kShownHeight = 610;
 
   explicit DLG_DBSKILL(cSkillSheetList list);
 
