@@ -154,36 +154,42 @@ void cChara::FixRefs() {
 
   BuildPlaces(0);
 
-  PLACE_TABLE& slots = m_vecvecSlot.Edit();
-  PLACE_TABLE& reserve = m_vecvecReserve.Edit();
-  for (std::size_t list = 0; list < slots.size(); ++list) {
+  cSharedTableEdit<PLACE_TABLE> slots(m_vecvecSlot), reserve(m_vecvecReserve);
+  for (std::size_t list = 0; list < slots.Read().size(); ++list) {
     const int rows = SkillRows(static_cast<int>(list));
-    for (cAcqSkill& place : slots[list]) {
-      if (place.m_nSkill >= rows) place.m_nSkill = 0;
+    for (std::size_t i = 0; i < slots.Read()[list].size(); ++i) {
+      if (slots.Read()[list][i].m_nSkill >= rows) slots.Write()[list][i].m_nSkill = 0;
     }
-    std::erase_if(reserve[list], [rows](const cAcqSkill& place) { return place.m_nSkill >= rows; });
+    const auto stale = [rows](const cAcqSkill& place) { return place.m_nSkill >= rows; };
+    if (list < reserve.Read().size() && std::any_of(reserve.Read()[list].begin(), reserve.Read()[list].end(), stale))
+      std::erase_if(reserve.Write()[list], stale);
   }
   std::erase_if(m_vecLearnSkill, [](const cLearnSkill& learn) {
     return !InRange(learn.m_nList, g_vecSkillList.Count()) || !InRange(learn.m_nSkill, SkillRows(learn.m_nList));
   });
   for (auto& equip : m_anEquip) {
     if (!InRange(equip[0], g_vecSkillList.Count())) equip[0] = 0;
-    const int places = InRange(equip[0], slots.Count()) ? slots[static_cast<std::size_t>(equip[0])].Count() : 0;
+    const int places =
+        InRange(equip[0], slots.Read().Count()) ? slots.Read()[static_cast<std::size_t>(equip[0])].Count() : 0;
     if (equip[1] >= places) equip[1] = 0;
   }
 }
 
+// Written as reads and changes: a character whose places already follow the lists
+// keeps sharing them with its copies.
 void cChara::BuildPlaces(int bClear) {
-  PLACE_TABLE& slots = m_vecvecSlot.Edit();
-  PLACE_TABLE& reserve = m_vecvecReserve.Edit();
-  if (bClear) slots.clear();
+  cSharedTableEdit<PLACE_TABLE> slots(m_vecvecSlot), reserve(m_vecvecReserve);
+  if (bClear && !slots.Read().empty()) slots.Write().clear();
   const std::size_t lists = g_vecSkillList.size();
-  slots.resize(lists);
-  reserve.resize(lists);
+  if (slots.Read().size() != lists) slots.Write().resize(lists);
+  if (reserve.Read().size() != lists) reserve.Write().resize(lists);
   const cClass* cls = Class();
+  const cAcqSkill emptyPlace;
   for (std::size_t list = 0; list < lists; ++list) {
     const cSkillList& rules = g_vecSkillList[list];
-    VECTOR_CLASS<cAcqSkill>& places = slots[list];
+    const auto resize = [&](std::size_t count) {
+      if (slots.Read()[list].size() != count) slots.Write()[list].resize(count);
+    };
     const VECTOR_CLASS<cSlot>* source = nullptr;
     cSlot freeSlot;  // the rules of a free place: any category, all symbols shown
     bool keep = false;
@@ -194,20 +200,27 @@ void cChara::BuildPlaces(int bClear) {
           source = &cls->m_vecOrgSlot[list].m_vecSlot;
           keep = source->empty();  // an empty own list leaves the places as they are
         }
-        if (!keep) places.resize(source->size());
+        if (!keep) resize(source->size());
         break;
       }
-      case kSlotUnlimited: places.resize(static_cast<std::size_t>(std::max(rules.m_nFreeSlots, 0))); break;
-      default: places.assign(1, cAcqSkill()); break;
+      case kSlotUnlimited: resize(static_cast<std::size_t>(std::max(rules.m_nFreeSlots, 0))); break;
+      default:  // one place, always empty
+        resize(1);
+        if (!Compare(slots.Read()[list][0], emptyPlace)) slots.Write()[list][0] = emptyPlace;
+        break;
     }
-    for (std::size_t i = 0; i < places.size() && !keep; ++i) {
-      if (bClear) places[i] = cAcqSkill();
-      places[i].m_Slot = source != nullptr ? (*source)[i] : freeSlot;
+    for (std::size_t i = 0; i < slots.Read()[list].size() && !keep; ++i) {
+      if (bClear && !Compare(slots.Read()[list][i], emptyPlace)) slots.Write()[list][i] = emptyPlace;
+      const cSlot& wanted = source != nullptr ? (*source)[i] : freeSlot;
+      if (!Compare(slots.Read()[list][i].m_Slot, wanted)) slots.Write()[list][i].m_Slot = wanted;
     }
     // The reserve keeps its skills across repairs; only a clearing build empties it.
     if (!m_bEnemy && rules.m_bReserve) {
-      reserve[list].resize(static_cast<std::size_t>(std::max(rules.m_nReserveMax, 0)));
-      if (bClear) std::fill(reserve[list].begin(), reserve[list].end(), cAcqSkill());
+      const std::size_t count = static_cast<std::size_t>(std::max(rules.m_nReserveMax, 0));
+      if (reserve.Read()[list].size() != count) reserve.Write()[list].resize(count);
+      if (bClear)
+        for (std::size_t i = 0; i < count; ++i)
+          if (!Compare(reserve.Read()[list][i], emptyPlace)) reserve.Write()[list][i] = emptyPlace;
     }
   }
 }

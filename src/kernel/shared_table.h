@@ -38,6 +38,23 @@ class cSharedTable {
   std::shared_ptr<T> m_p;
 };
 
+// A repair of a shared table: reads go to the shared table until the first write, which
+// gives the record its own. Most repairs change nothing and so copy nothing.
+template <class T>
+class cSharedTableEdit {
+ public:
+  explicit cSharedTableEdit(cSharedTable<T>& table) : m_Table(table) {}
+  const T& Read() const { return m_pOwn != nullptr ? *m_pOwn : *m_Table; }
+  T& Write() {
+    if (m_pOwn == nullptr) m_pOwn = &m_Table.Edit();
+    return *m_pOwn;
+  }
+
+ private:
+  cSharedTable<T>& m_Table;
+  T* m_pOwn = nullptr;
+};
+
 // The field function of a shared table of record vectors: a copy shares, writing and
 // comparing only read, and every other operation edits this record's own table.
 template <class T>

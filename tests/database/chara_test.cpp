@@ -120,10 +120,18 @@ TEST_F(CharaTest, CopiesShareThePlacesUntilOneOfThemChangesThem) {
   EXPECT_EQ(SavedStream(byWalk), saved);
 
   byValue.m_vecvecSlot.Edit()[0][0].m_nSkill = 1;
-  byWalk.FixRefs();  // a repair edits its own places
   EXPECT_FALSE(byValue.m_vecvecSlot.SharesWith(ally.m_vecvecSlot));
-  EXPECT_FALSE(byWalk.m_vecvecSlot.SharesWith(ally.m_vecvecSlot));
   EXPECT_EQ((*ally.m_vecvecSlot)[0][0].m_nSkill, 0);
+
+  // A repair that finds nothing to change copies nothing; one that changes a place
+  // changes only its own character's.
+  byWalk.FixRefs();
+  EXPECT_TRUE(byWalk.m_vecvecSlot.SharesWith(ally.m_vecvecSlot));
+  g_vecSkillList[0].m_nFreeSlots = 3;
+  byWalk.FixRefs();
+  EXPECT_FALSE(byWalk.m_vecvecSlot.SharesWith(ally.m_vecvecSlot));
+  EXPECT_EQ((*byWalk.m_vecvecSlot)[0].size(), 3u);
+  EXPECT_EQ((*ally.m_vecvecSlot)[0].size(), 200u);
   EXPECT_EQ(SavedStream(ally), saved);
   EXPECT_NE(SavedStream(byValue), saved);
 
