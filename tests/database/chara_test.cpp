@@ -122,6 +122,8 @@ TEST_F(CharaTest, CopiesShareThePlacesUntilOneOfThemChangesThem) {
   byValue.m_vecvecSlot.Edit()[0][0].m_nSkill = 1;
   EXPECT_FALSE(byValue.m_vecvecSlot.SharesWith(ally.m_vecvecSlot));
   EXPECT_EQ((*ally.m_vecvecSlot)[0][0].m_nSkill, 0);
+  EXPECT_EQ(SavedStream(ally), saved);
+  EXPECT_NE(SavedStream(byValue), saved);
 
   // A repair that finds nothing to change copies nothing; one that changes a place
   // changes only its own character's.
@@ -132,8 +134,6 @@ TEST_F(CharaTest, CopiesShareThePlacesUntilOneOfThemChangesThem) {
   EXPECT_FALSE(byWalk.m_vecvecSlot.SharesWith(ally.m_vecvecSlot));
   EXPECT_EQ((*byWalk.m_vecvecSlot)[0].size(), 3u);
   EXPECT_EQ((*ally.m_vecvecSlot)[0].size(), 200u);
-  EXPECT_EQ(SavedStream(ally), saved);
-  EXPECT_NE(SavedStream(byValue), saved);
 
   // A read from a file gives a record places of its own.
   cFriend read = LoadedFrom<cFriend>(SavedStream(byValue));

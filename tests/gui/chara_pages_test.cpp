@@ -116,6 +116,16 @@ TEST_F(CharaPagesTest, TheNameFileTheGrowthTimeAndTheFixedEXFollowTheirChecks) {
   }
 }
 
+// The pages work on copies of the tables; a character's places, most of its memory,
+// stay shared with the table through the page's showing and the sheet's apply.
+TEST_F(CharaPagesTest, ThePagesAndTheApplyShareTheCharactersPlacesWithTheTables) {
+  auto* page = ShowPage<DLG_DBFRIEND>(1);
+  ASSERT_GE(g_vecFriend.Count(), 2);
+  EXPECT_TRUE(page->m_vecWork[1].m_vecvecSlot.SharesWith(g_vecFriend[1].m_vecvecSlot));
+  SheetButton("適用")->click();
+  EXPECT_TRUE(page->m_vecWork[1].m_vecvecSlot.SharesWith(g_vecFriend[1].m_vecvecSlot));
+}
+
 TEST_F(CharaPagesTest, ARenamedClassShowsUnderItsOldNameUntilTheSheetIsApplied) {
   TypeClassName("X");
   auto* page = ShowPage<DLG_DBFRIEND>(1);
