@@ -16,10 +16,11 @@
 #include "stage/map_edit.h"
 #include "stage/stage_view_draw.h"
 
+#include "pen_stroke.h"
+
 namespace {
 
 constexpr int kSide = 64;
-constexpr int kMoves = 200;
 
 struct cBench {
   cBench() {
@@ -52,33 +53,14 @@ cBench& Bench() {
   return bench;
 }
 
-// Pixel of the k-th move: a zigzag that reaches a new cell on every move.
-int MoveX(int k) { return ((k % 40) * 16) % 640; }
-int MoveY(int k) { return (k / 40) * 96 + 5; }
-
 void BM_PenStroke_EngineAndRedraw(benchmark::State& state) {
   cBench& b = Bench();
-  for (auto _ : state) {
-    StageMouse(b.view, {eMapMouse::kLeftDown, 5, 5, true, false});
-    for (int k = 0; k < kMoves; ++k) {
-      StageMouse(b.view, {eMapMouse::kMove, MoveX(k), MoveY(k), true, false});
-      DrawStageView(b.buffer, b.view);
-    }
-    StageMouse(b.view, {eMapMouse::kLeftUp, MoveX(kMoves - 1), MoveY(kMoves - 1), false, false});
-    benchmark::DoNotOptimize(b.buffer.m_vecBits.data());
-  }
+  for (auto _ : state) PenStroke(b.view, b.buffer, StageMouse, DrawStageView);
 }
 
 void BM_PenStroke_RedrawAlone(benchmark::State& state) {
   cBench& b = Bench();
-  for (auto _ : state) {
-    for (int k = 0; k < kMoves; ++k) {
-      b.view.m_nCursorX = MoveX(k) / kMapCellPx;
-      b.view.m_nCursorY = MoveY(k) / kMapCellPx;
-      DrawStageView(b.buffer, b.view);
-    }
-    benchmark::DoNotOptimize(b.buffer.m_vecBits.data());
-  }
+  for (auto _ : state) RedrawsOfStroke(b.view, b.buffer, DrawStageView);
 }
 
 void BM_LargestStage_PushUndo(benchmark::State& state) {
@@ -119,7 +101,7 @@ int main(int argc, char** argv) {
   if (redraw > 0)
     std::printf("Map editing: a pen stroke of %d moves with a 3 by 3 brush and its redraws takes %.2f times the "
                 "redraws alone (target: at most 1.2)\n",
-                kMoves, stroke / redraw);
+                kStrokeMoves, stroke / redraw);
   if (walk > 0)
     std::printf("Map editing: an undo step of the largest stage takes %.2f times writing its records to memory "
                 "(target: at most 1.5)\n",

@@ -12,9 +12,10 @@
 #include "stage/world_edit.h"
 #include "stage/world_view_draw.h"
 
+#include "pen_stroke.h"
+
 namespace {
 
-constexpr int kMoves = 200;
 
 struct cBench {
   cBench() {
@@ -50,33 +51,14 @@ cBench& Bench() {
   return bench;
 }
 
-// Pixel of the k-th move: a zigzag that reaches a new cell on every move.
-int MoveX(int k) { return ((k % 40) * 16) % 640; }
-int MoveY(int k) { return (k / 40) * 96 + 5; }
-
 void BM_WorldPenStroke_EngineAndRedraw(benchmark::State& state) {
   cBench& b = Bench();
-  for (auto _ : state) {
-    WorldMouse(b.view, {eMapMouse::kLeftDown, 5, 5, true, false});
-    for (int k = 0; k < kMoves; ++k) {
-      WorldMouse(b.view, {eMapMouse::kMove, MoveX(k), MoveY(k), true, false});
-      DrawWorldView(b.buffer, b.view);
-    }
-    WorldMouse(b.view, {eMapMouse::kLeftUp, MoveX(kMoves - 1), MoveY(kMoves - 1), false, false});
-    benchmark::DoNotOptimize(b.buffer.m_vecBits.data());
-  }
+  for (auto _ : state) PenStroke(b.view, b.buffer, WorldMouse, DrawWorldView);
 }
 
 void BM_WorldPenStroke_RedrawAlone(benchmark::State& state) {
   cBench& b = Bench();
-  for (auto _ : state) {
-    for (int k = 0; k < kMoves; ++k) {
-      b.view.m_nCursorX = b.view.m_nScrollX + MoveX(k) / kMapCellPx;
-      b.view.m_nCursorY = b.view.m_nScrollY + MoveY(k) / kMapCellPx;
-      DrawWorldView(b.buffer, b.view);
-    }
-    benchmark::DoNotOptimize(b.buffer.m_vecBits.data());
-  }
+  for (auto _ : state) RedrawsOfStroke(b.view, b.buffer, DrawWorldView);
 }
 
 BENCHMARK(BM_WorldPenStroke_EngineAndRedraw)->Unit(benchmark::kMillisecond)->MinTime(1.0);
@@ -93,7 +75,7 @@ int main(int argc, char** argv) {
   if (redraw > 0)
     std::printf("World map editing: a pen stroke of %d moves with a 3 by 3 brush over the 200 by 150 map and its "
                 "redraws takes %.2f times the redraws alone (target: at most 1.2)\n",
-                kMoves, stroke / redraw);
+                kStrokeMoves, stroke / redraw);
   benchmark::Shutdown();
   return 0;
 }
