@@ -33,63 +33,6 @@ namespace {
 
 constexpr const char* kClassFile = "data/database/Class.dat";
 
-class DatabaseSheetTest : public TemplateProjectTest {
- protected:
-  void SetUp() override {
-    TemplateProjectTest::SetUp();
-    fs::copy("default", "data", fs::copy_options::recursive);
-    ASSERT_TRUE(StartUp(m_shell));
-    m_pSheet = OpenDatabaseSheet(nullptr, [this] { ++m_ends; });
-    ASSERT_NE(m_pSheet, nullptr);
-    m_pClass = dynamic_cast<DLG_DBCLASS*>(m_pSheet->PageOfRow(0));
-    ASSERT_NE(m_pClass, nullptr);
-  }
-  void TearDown() override {
-    if (m_pSheet != nullptr && m_pSheet->IsOpen()) m_pSheet->Cancel();
-    QTest::qWait(1);
-    ShutDown();
-    TemplateProjectTest::TearDown();
-  }
-  QPushButton* SheetButton(const char* text) const {
-    for (QPushButton* b : m_pSheet->m_hWnd->findChildren<QPushButton*>())
-      if (b->text() == QString::fromUtf8(text)) return b;
-    return nullptr;
-  }
-  static void Click(QListWidget* list, int row) { list->setCurrentRow(row, QItemSelectionModel::ClearAndSelect); }
-  QListWidget* List(unsigned id) const { return static_cast<QListWidget*>(m_pClass->GetDlgItem(id)); }
-  void TypeClassName(const char* keys) {
-    auto* name = static_cast<QLineEdit*>(m_pClass->GetDlgItem(DLG_DBCLASS::kName));
-    name->setFocus();
-    QTest::keyClick(name, Qt::Key_End);
-    QTest::keyClicks(name, keys);
-  }
-  // Answers the next modal form with `value` in its number edit and OK.
-  static void AnswerNumber(int value) {
-    QTimer::singleShot(0, [value] {
-      QWidget* w = QApplication::activeModalWidget();
-      ASSERT_NE(w, nullptr);
-      QLineEdit* edit = w->findChild<QLineEdit*>();
-      edit->setText(QString::number(value));
-      for (QPushButton* b : w->findChildren<QPushButton*>())
-        if (b->text() == "OK") b->click();
-    });
-  }
-
-  cRecordingShell m_shell;
-  PROP_DATABASE* m_pSheet = nullptr;
-  DLG_DBCLASS* m_pClass = nullptr;
-  int m_ends = 0;
-};
-
-// The page of table row `row`, brought to the front.
-template <class Page>
-Page* ShowPage(PROP_DATABASE& sheet, int row) {
-  auto* page = dynamic_cast<Page*>(sheet.PageOfRow(row));
-  for (int i = 0; i < sheet.m_vecPage.Count(); ++i)
-    if (sheet.m_vecPage[i] == page) sheet.SetCurrentPage(i);
-  return page;
-}
-
 TEST_F(DatabaseSheetTest, TheClassPageComesFirstWithItsPaddedTabAndEveryControlNamed) {
   auto* tabs = m_pSheet->m_hWnd->findChild<QTabWidget*>();
   ASSERT_NE(tabs, nullptr);
@@ -135,7 +78,7 @@ TEST_F(DatabaseSheetTest, AResistanceIsEditedThroughTheNumberFormAndReachesTheRo
 }
 
 TEST_F(DatabaseSheetTest, TheTerrainPageClearsARowToItsDefaultsAndShowsItsChip) {
-  auto* land = ShowPage<DLG_DBLAND>(*m_pSheet, 5);
+  auto* land = ShowPage<DLG_DBLAND>(5);
   ASSERT_NE(land, nullptr);
   EXPECT_EQ(ProbeOpenForm(*land), std::vector<std::string>{});
   auto* rows = static_cast<QListWidget*>(land->GetDlgItem(DLG_DBLAND::kList));
@@ -159,7 +102,7 @@ TEST_F(DatabaseSheetTest, TheTerrainPageClearsARowToItsDefaultsAndShowsItsChip) 
 }
 
 TEST_F(DatabaseSheetTest, ARuleInsertedAndCancelledLeavesTheListAsItWas) {
-  auto* types = ShowPage<DLG_DBSKILLTYPE>(*m_pSheet, 4);
+  auto* types = ShowPage<DLG_DBSKILLTYPE>(4);
   ASSERT_NE(types, nullptr);
   EXPECT_EQ(ProbeOpenForm(*types), std::vector<std::string>{});
   const int rules = types->m_Edit.m_vecInfl.Count();
@@ -173,7 +116,7 @@ TEST_F(DatabaseSheetTest, ARuleInsertedAndCancelledLeavesTheListAsItWas) {
 }
 
 TEST_F(DatabaseSheetTest, AHelpPageWrittenInItsFormShowsItsFirstLineAndAnInsertCancelledIsGone) {
-  auto* help = ShowPage<DLG_DB_HELP>(*m_pSheet, 13);
+  auto* help = ShowPage<DLG_DB_HELP>(13);
   ASSERT_NE(help, nullptr);
   EXPECT_EQ(ProbeOpenForm(*help), std::vector<std::string>{});
   const int pages = help->m_Edit.m_vecText.Count();
@@ -197,7 +140,7 @@ TEST_F(DatabaseSheetTest, AHelpPageWrittenInItsFormShowsItsFirstLineAndAnInsertC
 }
 
 TEST_F(DatabaseSheetTest, RenamingACommonVariableIsSavedAtOnceAndRowZeroBeeps) {
-  auto* vars = ShowPage<DLG_DB_PTVAL>(*m_pSheet, 6);
+  auto* vars = ShowPage<DLG_DB_PTVAL>(6);
   ASSERT_NE(vars, nullptr);
   EXPECT_EQ(ProbeOpenForm(*vars), std::vector<std::string>{});
   const int variable = vars->m_Edit.m_nCommonVar;
@@ -221,7 +164,7 @@ TEST_F(DatabaseSheetTest, RenamingACommonVariableIsSavedAtOnceAndRowZeroBeeps) {
 }
 
 TEST_F(DatabaseSheetTest, AMusicRowFollowsItsFileNameAndAChosenFileIsStoredRelative) {
-  auto* music = ShowPage<DLG_DB_BGM>(*m_pSheet, 12);
+  auto* music = ShowPage<DLG_DB_BGM>(12);
   ASSERT_NE(music, nullptr);
   EXPECT_EQ(ProbeOpenForm(*music), std::vector<std::string>{});
   auto* same = static_cast<QCheckBox*>(music->GetDlgItem(DLG_DB_BGM::kSameName));
@@ -254,7 +197,7 @@ TEST_F(DatabaseSheetTest, AMusicRowFollowsItsFileNameAndAChosenFileIsStoredRelat
 }
 
 TEST_F(DatabaseSheetTest, ABackgroundsKindEnablesItsPartsAndTheOthersKeepTheirValues) {
-  auto* backs = ShowPage<DLG_DB_BACK>(*m_pSheet, 10);
+  auto* backs = ShowPage<DLG_DB_BACK>(10);
   ASSERT_NE(backs, nullptr);
   EXPECT_EQ(ProbeOpenForm(*backs), std::vector<std::string>{});
   auto* kind = static_cast<QComboBox*>(backs->GetDlgItem(DLG_DB_BACK::kKind));
