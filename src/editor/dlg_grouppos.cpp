@@ -5,20 +5,15 @@
 #include "platform/cp932.h"
 #include "project/project_globals.h"
 #include "stage/group_pos_edit.h"
+#include "toolkit/list_init.h"
 
 DLG_GROUPPOS::DLG_GROUPPOS(QWidget* parent, QWidget* main) : DLG_CLASS(parent, "位置グループの設定"), m_pMain(main) {
   if (g_Stage.m_vecGroupPos.Count() < 2) g_Stage.m_vecGroupPos.resize(2);
 
-  cListInit<cGroupPos> init;
-  init.bMulti = 1;
+  cListInit<cGroupPos> init = NumberedRows<cGroupPos>(
+      &m_vecWork, 1, kMaxGroupRows, [](std::string& out, int, const cGroupPos& group) { out = GroupPosRowText(group); });
   init.pSource = &g_Stage.m_vecGroupPos;
-  init.pWork = &m_vecWork;
-  init.bRowNumbers = 1;
-  init.nMinRows = 1;
-  init.nMaxRows = kMaxGroupRows;
   init.nFirstRow = 1;
-  init.bBlankRow = 1;
-  init.pfnRowText = [](std::string& out, int, const cGroupPos& group) { out = GroupPosRowText(group); };
 
   cFormTable& F = Table();
   F.Group("位置グループ");

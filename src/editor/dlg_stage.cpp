@@ -5,6 +5,7 @@
 #include "project/project_globals.h"
 #include "sound/sound_start.h"
 #include "editor/dlg_endcond.h"
+#include "toolkit/list_init.h"
 
 namespace {
 
@@ -62,14 +63,9 @@ DLG_STAGE::DLG_STAGE(const cStage& source, QWidget* parent)
     const cDescriptionFace& face = kDescriptionFaces[i];
     cDescription& d = m_aDesc[i];
     d.id = kDescriptionIds[i];
-    cListInit<cEndCond> init;
-    init.bMulti = 1;
+    cListInit<cEndCond> init = NumberedRows<cEndCond>(
+        &d.work, 0, kMaxLines, [](std::string& out, int, const cEndCond& line) { out = line.m_strText; });
     init.pSource = &(s.*face.field);
-    init.pWork = &d.work;
-    init.bRowNumbers = 1;
-    init.nMaxRows = kMaxLines;
-    init.bBlankRow = 1;
-    init.pfnRowText = [](std::string& out, int, const cEndCond& line) { out = line.m_strText; };
     F.Group(face.title);
     F.List(d.id + kListOffset, "", d.list, init, face.ids, kMaxLines + 1).Span(3).Row();
     F.Button(d.id + kInsertOffset, "挿入");

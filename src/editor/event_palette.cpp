@@ -4,6 +4,7 @@
 #include "stage/edit_state.h"
 #include "toolkit/ctrl_types.h"
 #include "toolkit/list_ctrl_base.h"
+#include "toolkit/list_init.h"
 
 namespace {
 
@@ -17,15 +18,8 @@ cEventPalette::cEventPalette() {
 }
 
 cListInit<cEvent> cEventPalette::Init() {
-  cListInit<cEvent> init;
-  init.bMulti = 1;
-  init.pWork = &g_vecEventPlt;
-  init.bRowNumbers = 1;
-  init.nMinRows = 1;
-  init.nMaxRows = 999;
-  init.bBlankRow = 1;
-  init.pfnRowText = [](std::string& out, int, const cEvent& event) { out = event.m_strName; };
-  return init;
+  return NumberedRows<cEvent>(&g_vecEventPlt, 1, 999,
+                              [](std::string& out, int, const cEvent& event) { out = event.m_strName; });
 }
 
 bool cEventPalette::Command(unsigned id, unsigned code) {

@@ -2,6 +2,7 @@
 
 #include "forms/database/symbol_reference.h"
 #include "project/project_globals.h"
+#include "toolkit/list_init.h"
 
 std::string HelpPageRowText(const cEdHelpText& page) {
   const std::size_t end = page.m_strText.find_first_of("\r\n");
@@ -38,14 +39,8 @@ void DLG_TEXT::OnFormCommand(unsigned id, unsigned) {
 
 DLG_DB_HELP::DLG_DB_HELP() : cTablePage(g_Database.m_vecHelp, "ヘルプ", {0, 1, 999}) {
   cEdHelp& E = m_Edit;
-  cListInit<cEdHelpText> pages;
-  pages.bMulti = 1;
-  pages.pWork = &E.m_vecText;
-  pages.bRowNumbers = 1;
-  pages.nMinRows = 1;
-  pages.nMaxRows = 999;
-  pages.bBlankRow = 1;
-  pages.pfnRowText = [](std::string& out, int, const cEdHelpText& page) { out = HelpPageRowText(page); };
+  const cListInit<cEdHelpText> pages = NumberedRows<cEdHelpText>(
+      &E.m_vecText, 1, 999, [](std::string& out, int, const cEdHelpText& page) { out = HelpPageRowText(page); });
 
   cFormTable& F = Table();
   F.Column();

@@ -11,6 +11,7 @@
 #include "platform/cp932.h"
 #include "project/project_globals.h"
 #include "toolkit/wnd_class.h"
+#include "toolkit/list_init.h"
 
 namespace {
 
@@ -20,15 +21,7 @@ constexpr int kMaxEntries = 99;  // categories and slots of a list
 
 template <class T>
 cListInit<T> EntryList(VECTOR_CLASS<T>* rows, std::function<void(std::string&, int, const T&)> text) {
-  cListInit<T> init;
-  init.bMulti = 1;
-  init.pWork = rows;
-  init.bRowNumbers = 1;
-  init.nMinRows = 1;
-  init.nMaxRows = kMaxEntries;
-  init.bBlankRow = 1;
-  init.pfnRowText = std::move(text);
-  return init;
+  return NumberedRows<T>(rows, 1, kMaxEntries, std::move(text));
 }
 
 // Entry `i` of a vector field, or `blank` where the vector is shorter.

@@ -9,6 +9,7 @@
 #include "project/system_labels.h"
 #include "sound/sound_start.h"
 #include "toolkit/record_form.h"
+#include "toolkit/list_init.h"
 
 DLG_ELEM::DLG_ELEM(const cElem& source, QWidget* parent) : cRecordForm(parent, "属性の種類", source) {
   Table().EditStr(kName, "名称", &m_Work.m_strName, WideLine(1)).Row();
@@ -176,16 +177,10 @@ void DLG_DBSYSTEM_3::OnUpdateEnable() {
 
 DLG_DBSYSTEM_4::DLG_DBSYSTEM_4() : cSystemPage("システム4") {
   cFormTable& F = Table();
-  cListInit<cElem> elem;
-  elem.bMulti = 1;
+  cListInit<cElem> elem =
+      NumberedRows<cElem>(&m_vecElem, 1, 99, [](std::string& out, int, const cElem& e) { out = e.m_strName; });
   elem.pSource = Use(&g_System.m_vecElem, "m_vecElem");
-  elem.pWork = &m_vecElem;
-  elem.bRowNumbers = 1;
   elem.nFirstRow = 1;
-  elem.nMinRows = 1;
-  elem.nMaxRows = 99;
-  elem.bBlankRow = 1;
-  elem.pfnRowText = [](std::string& out, int, const cElem& e) { out = e.m_strName; };
 
   F.Column();
   F.Group("属性");

@@ -5,6 +5,7 @@
 #include "forms/input_forms.h"
 #include "platform/cp932.h"
 #include "project/project_globals.h"
+#include "toolkit/list_init.h"
 
 namespace {
 
@@ -21,13 +22,8 @@ DLG_SLOT::DLG_SLOT(const cSlot& source, int list, QWidget* parent)
 DLG_SLOT::DLG_SLOT(const cSlot& source, const VECTOR_CLASS<cCateg>& categs, QWidget* parent)
     : cRecordForm(parent, "スロット", source) {
   for (const cCateg& c : categs) m_vecCategNames.push_back(c.m_strName);
-  cListInit<cAcqCond> conds;
-  conds.bMulti = 1;
-  conds.pWork = &m_Work.m_vecAcqCond;
+  cListInit<cAcqCond> conds = NumberedRows<cAcqCond>(&m_Work.m_vecAcqCond, 0, 99, {});
   conds.pEditRec = &m_EditCond;
-  conds.bRowNumbers = 1;
-  conds.nMaxRows = 99;
-  conds.bBlankRow = 1;
   conds.pfnRowText = [this](std::string& out, int, const cAcqCond& c) {
     out = c.m_nCateg >= 0 && c.m_nCateg < m_vecCategNames.Count() ? m_vecCategNames[c.m_nCateg] : std::string();
   };
@@ -66,13 +62,7 @@ void DLG_SLOT::OnFormCommand(unsigned id, unsigned code) {
 
 DLG_ORGSLOT::DLG_ORGSLOT(const cOrgSlotList& source, int list, QWidget* parent)
     : cRecordForm(parent, "スロット", source), m_nList(list) {
-  cListInit<cSlot> rows;
-  rows.bMulti = 1;
-  rows.pWork = &m_Work.m_vecSlot;
-  rows.bRowNumbers = 1;
-  rows.nMinRows = 1;
-  rows.nMaxRows = 99;
-  rows.bBlankRow = 1;
+  cListInit<cSlot> rows = NumberedRows<cSlot>(&m_Work.m_vecSlot, 1, 99, {});
   rows.pfnRowText = [this](std::string& out, int, const cSlot& slot) {
     cSlot shown = slot;  // the summary repairs what it reads; the row keeps its own
     out = SummarySlot(shown, ListOrEmpty(m_nList));

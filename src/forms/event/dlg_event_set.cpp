@@ -20,6 +20,7 @@
 #include "stage/map_edit.h"
 #include "stage/stage_view_draw.h"
 #include "toolkit/ctrl_types.h"
+#include "toolkit/list_init.h"
 
 namespace {
 
@@ -37,15 +38,10 @@ DLG_EVENT_SET::DLG_EVENT_SET(cEvent& target, eEventTarget kind, QWidget* parent)
   BuildNumberedLabels(m_vecFriendLabels, eNamedTable::Friend, 1, "条件なし");
   m_ActList.LeaveToForm(kListInsert);
 
-  cListInit<cEventPage> pages;
-  pages.bMulti = 1;
-  pages.pWork = &m_Event.m_vecPage;  // the copy is the working vector: OK writes it back whole
+  // The copy is the working vector: OK writes it back whole.
+  cListInit<cEventPage> pages = NumberedRows<cEventPage>(
+      &m_Event.m_vecPage, 1, 999, [](std::string& out, int row, const cEventPage& page) { EventPageRowText(out, row, page); });
   pages.pEditRec = &m_PageEdit;
-  pages.bRowNumbers = 1;
-  pages.nMinRows = 1;
-  pages.nMaxRows = 999;
-  pages.bBlankRow = 1;
-  pages.pfnRowText = [](std::string& out, int row, const cEventPage& page) { EventPageRowText(out, row, page); };
 
   cListInit<cEventAct> acts;
   acts.bMulti = 1;

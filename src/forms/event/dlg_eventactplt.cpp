@@ -4,17 +4,13 @@
 #include "project/project_files.h"
 #include "project/project_globals.h"
 #include "toolkit/list_order.h"
+#include "toolkit/list_init.h"
 
 DLG_EVENTACTPLT::DLG_EVENTACTPLT(VECTOR_CLASS<cEventActPlt>& palette, int sel, QWidget* parent)
     : DLG_CLASS(parent, "イベントアクションパレット"), m_vecPalette(palette), m_nFirstSel(sel) {
-  cListInit<cEventActPlt> init;
-  init.bMulti = 1;
-  init.pWork = &m_vecPalette;
+  cListInit<cEventActPlt> init = NumberedRows<cEventActPlt>(
+      &m_vecPalette, 0, kActionPaletteMax, [](std::string& out, int, const cEventActPlt& entry) { out = entry.m_strName; });
   init.pEditRec = &m_Edit;
-  init.bRowNumbers = 1;
-  init.nMaxRows = kActionPaletteMax;
-  init.bBlankRow = 1;
-  init.pfnRowText = [](std::string& out, int, const cEventActPlt& entry) { out = entry.m_strName; };
 
   cFormTable& F = Table();
   F.List(kIdList, "アクションパレット", m_List, init, kListFirstFree, 14).LabelAbove().Span(3).Row();
