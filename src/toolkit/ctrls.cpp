@@ -167,8 +167,16 @@ void CTRL_COMBO_CLASS<int>::Fill(int row) {
   auto* c = dynamic_cast<QComboBox*>(m_hWnd.data());
   if (c == nullptr) return;
   const QSignalBlocker block(c);
-  c->clear();
-  for (const std::string& r : m_Rules.Rows()) c->addItem(QString::fromStdString(r));
+  // A row change of a page refills its boxes of names of 999 rows each time; most
+  // times the names are the ones already there.
+  if (m_Rules.Rows() != m_vecShown || c->count() != static_cast<int>(m_vecShown.size())) {
+    m_vecShown = m_Rules.Rows();
+    QStringList texts;
+    texts.reserve(static_cast<qsizetype>(m_vecShown.size()));
+    for (const std::string& r : m_vecShown) texts.push_back(QString::fromStdString(r));
+    c->clear();
+    c->addItems(texts);
+  }
   c->setCurrentIndex(row);
 }
 

@@ -136,6 +136,8 @@ class CTRL_COMBO_CLASS<int> : public CTRL_CLASS {
  private:
   int CurRow() const;
   void Fill(int row);
+  // The rows the widget holds, so that a refill with the same rows only selects.
+  std::vector<std::string> m_vecShown;
 };
 
 // The slider apart from the field's type.

@@ -1,4 +1,5 @@
 #include <QGuiApplication>
+#include <QItemSelection>
 #include <QMenu>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -105,7 +106,10 @@ void CTRL_LISTVIEW_CLASS::Sync() {
   const bool rows = b.rowsRevision != m_nRowsRev;
   if (rows) {
     w->clear();
-    for (const std::string& row : b.rows) w->addItem(QString::fromStdString(Cp932ToUtf8Lossy(row)));
+    QStringList texts;
+    texts.reserve(static_cast<qsizetype>(b.rows.size()));
+    for (const std::string& row : b.rows) texts.push_back(QString::fromStdString(Cp932ToUtf8Lossy(row)));
+    w->addItems(texts);
     m_nRowsRev = b.rowsRevision;
   }
   if (!rows && b.selRevision == m_nSelRev) return;
@@ -114,7 +118,16 @@ void CTRL_LISTVIEW_CLASS::Sync() {
     if (b.Valid(b.curSel)) w->setCurrentRow(b.curSel, QItemSelectionModel::ClearAndSelect);
     else w->clearSelection();
   } else {
-    for (int i = 0; i < w->count(); ++i) w->item(i)->setSelected(b.IsSelected(i));
+    // One selection of runs of rows: row by row, each change would go through the model.
+    QItemSelection selection;
+    for (int i = 0; i < w->count(); ++i) {
+      if (!b.IsSelected(i)) continue;
+      int last = i;
+      while (last + 1 < w->count() && b.IsSelected(last + 1)) ++last;
+      selection.select(w->model()->index(i, 0), w->model()->index(last, 0));
+      i = last;
+    }
+    w->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     if (b.Valid(b.caret)) w->setCurrentRow(b.caret, QItemSelectionModel::NoUpdate);
   }
   if (b.Valid(b.topIndex)) w->scrollToItem(w->item(b.topIndex), QAbstractItemView::PositionAtTop);

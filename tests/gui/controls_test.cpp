@@ -16,9 +16,10 @@ namespace {
 class DLG_ROWS : public DLG_CLASS {
  public:
   enum : unsigned { kList = 1200, kEdit = 1201, kSlider = 1202, kMirror = 1203, kCombo = 1204 };
-  explicit DLG_ROWS(const VECTOR_CLASS<int>& rows) : DLG_CLASS(nullptr, "行"), m_vecSource(rows) {
+  explicit DLG_ROWS(const VECTOR_CLASS<int>& rows, bool multi = false) : DLG_CLASS(nullptr, "行"), m_vecSource(rows) {
     m_vecValues = {10, 20, 30};
     cListInit<int> init;
+    init.bMulti = multi ? 1 : 0;
     init.pSource = &m_vecSource;
     init.pWork = &m_vecWork;
     init.pEditRec = &m_nEdit;
@@ -74,6 +75,20 @@ TEST(ListControl, RowsSelectionEditRecordAndCommitAgree) {
   EXPECT_EQ(edit->text(), "5");
   form.ApplyAll();
   EXPECT_EQ(form.m_vecSource, (VECTOR_CLASS<int>{4, 5}));
+  form.End(0);
+}
+
+TEST(ListControl, AMultipleSelectionSurvivesARefillOfTheRows) {
+  DLG_ROWS form(VECTOR_CLASS<int>{1, 2, 3, 4, 5, 6}, true);
+  ASSERT_TRUE(form.Create(0, false));
+  QListWidget* list = form.List();
+  for (int row : {0, 2, 3, 5}) list->item(row)->setSelected(true);  // as Ctrl-clicks do
+  form.m_List.Redraw();
+  form.UpdateAll();
+  std::vector<int> shown;
+  for (int row = 0; row < list->count(); ++row)
+    if (list->item(row)->isSelected()) shown.push_back(row);
+  EXPECT_EQ(shown, (std::vector<int>{0, 2, 3, 5}));
   form.End(0);
 }
 
