@@ -72,12 +72,16 @@ int cChara::Serialize(int op, const cSerial* other, cSerialFile* file, std::uint
   SERIAL_FIELD(ints(&m_anEquip[0][0], o ? &o->m_anEquip[0][0] : nullptr, kEquipCount * 2));
   SERIAL_FIELD(SerialString(op, m_strName, OTHER(m_strName), file));
   SERIAL_FIELD(SerialString(op, m_strDesc, OTHER(m_strDesc), file));
-  SERIAL_FIELD(SerialVectorArray(op, ARRAY(m_avecGrow), kStatusCount, file));
-  if (version >= 69) SERIAL_FIELD(SerialVectorArray(op, ARRAY(m_avecRandomGrow), kStatusCount, file));
-  SERIAL_FIELD(SerialVectorVector(op, m_vecvecSense, OTHER(m_vecvecSense), file));
+  const auto growth = [&](GROWTH_TABLE& t, const GROWTH_TABLE* ot) {
+    return SerialVectorArray(op, t.data(), ot != nullptr ? ot->data() : nullptr, kStatusCount, file);
+  };
+  const auto sense = [&](SENSE_TABLE& t, const SENSE_TABLE* ot) { return SerialVectorVector(op, t, ot, file); };
+  SERIAL_FIELD(SerialShared(op, m_avecGrow, OTHER(m_avecGrow), growth));
+  if (version >= 69) SERIAL_FIELD(SerialShared(op, m_avecRandomGrow, OTHER(m_avecRandomGrow), growth));
+  SERIAL_FIELD(SerialShared(op, m_vecvecSense, OTHER(m_vecvecSense), sense));
   if (version >= 231) {
-    SERIAL_FIELD(SerialVectorVector(op, m_vecvecSenseBase, OTHER(m_vecvecSenseBase), file));
-    SERIAL_FIELD(SerialVectorVector(op, m_vecvecSenseAdd, OTHER(m_vecvecSenseAdd), file));
+    SERIAL_FIELD(SerialShared(op, m_vecvecSenseBase, OTHER(m_vecvecSenseBase), sense));
+    SERIAL_FIELD(SerialShared(op, m_vecvecSenseAdd, OTHER(m_vecvecSenseAdd), sense));
   }
   SERIAL_FIELD(SerialSharedRecordVectorVector(op, m_vecvecSlot, OTHER(m_vecvecSlot), file));
   SERIAL_FIELD(SerialSharedRecordVectorVector(op, m_vecvecReserve, OTHER(m_vecvecReserve), file));
@@ -94,20 +98,18 @@ void cChara::SetDefault() {
     m_aParam[i].Reset();
     m_aParam[i].m_nType = i;
   }
-  for (SENSE_TABLE* sense : {&m_vecvecSense, &m_vecvecSenseBase, &m_vecvecSenseAdd}) sense->clear();
+  for (auto* sense : {&m_vecvecSense, &m_vecvecSenseBase, &m_vecvecSenseAdd}) sense->Clear();
   m_vecvecSlot.Clear();
   m_vecvecReserve.Clear();
   m_vecLearnSkill.clear();
 }
 
 void cChara::DropDerivedTables() {
-  for (SENSE_TABLE* sense : {&m_vecvecSense, &m_vecvecSenseBase, &m_vecvecSenseAdd}) sense->clear();
+  for (auto* sense : {&m_vecvecSense, &m_vecvecSenseBase, &m_vecvecSenseAdd}) sense->Clear();
   m_vecvecSlot.Clear();
   m_vecvecReserve.Clear();
-  for (int i = 0; i < kStatusCount; ++i) {
-    m_avecGrow[i].clear();
-    m_avecRandomGrow[i].clear();
-  }
+  m_avecGrow.Clear();
+  m_avecRandomGrow.Clear();
 }
 
 const cClass* cChara::Class() const {
@@ -119,7 +121,7 @@ SKILL_HOLDER cChara::Holder() {
   SKILL_HOLDER holder;
   holder.nClass = m_nClass;
   holder.bEnemy = m_bEnemy != 0;
-  holder.pSense = &m_vecvecSense;
+  holder.pSense = &*m_vecvecSense;
   holder.pSlots = &m_vecvecSlot.Edit();
   holder.pReserve = &m_vecvecReserve.Edit();
   holder.recalcStatus = [this] { RecalcStatus(); };
@@ -146,11 +148,14 @@ void cChara::FixRefs() {
   const cClass* cls = Class();
   m_nLevelMax = std::max(cls != nullptr ? cls->m_nLevelMax : 1, 1);
   m_nLevel = std::min(m_nLevel, m_nLevelMax);
-  for (int i = 0; i < kStatusCount; ++i) {
-    m_avecGrow[i].resize(static_cast<std::size_t>(m_nLevelMax), 0);
-    m_avecRandomGrow[i].resize(static_cast<std::size_t>(m_nLevelMax), 0);
+  const auto levels = static_cast<std::size_t>(m_nLevelMax);
+  for (auto* growth : {&m_avecGrow, &m_avecRandomGrow}) {
+    const bool sized = std::all_of((*growth)->begin(), (*growth)->end(), [levels](const auto& v) { return v.size() == levels; });
+    if (!sized)
+      for (auto& values : growth->Edit()) values.resize(levels, 0);
   }
-  for (SENSE_TABLE* sense : {&m_vecvecSense, &m_vecvecSenseBase, &m_vecvecSenseAdd}) FitSenseToLists(*sense);
+  for (auto* sense : {&m_vecvecSense, &m_vecvecSenseBase, &m_vecvecSenseAdd})
+    if (!SenseFitsLists(**sense)) FitSenseToLists(sense->Edit());
 
   BuildPlaces(0);
 

@@ -4,6 +4,7 @@
 // resolved status ranges, growth tables by level, sense, places and skills to learn;
 // the editor runs the game's own generation and levelling on copies to preview them.
 
+#include <array>
 #include <cstdint>
 #include <string>
 
@@ -36,6 +37,10 @@ class cChara : public cSerial {
   static constexpr int kStatusCount = 9;
   static constexpr int kEquipCount = 3;
   static constexpr int kGeneratedVersion = 290;
+  using GROWTH_TABLE = std::array<VECTOR_CLASS<std::int32_t>, kStatusCount>;
+  // A default character builds the places of every skill list; a form that only needs
+  // a record to bind its controls to copies a row instead, which shares them.
+  static constexpr bool kDefaultBuildsPlaces = true;
 
   cChara() {
     Reset();
@@ -109,12 +114,13 @@ class cChara : public cSerial {
   int m_anEquip[kEquipCount][2];  // list row, place index in that list's slots
   std::string m_strName;
   std::string m_strDesc;
-  VECTOR_CLASS<std::int32_t> m_avecGrow[kStatusCount];        // hundredths gained on reaching level n, at n-1
-  VECTOR_CLASS<std::int32_t> m_avecRandomGrow[kStatusCount];  // the random part, same shape
-  SENSE_TABLE m_vecvecSense;
-  SENSE_TABLE m_vecvecSenseBase;
-  SENSE_TABLE m_vecvecSenseAdd;
-  // Shared by copies until one changes them: they are most of a character's memory.
+  // The derived tables are shared by copies until one changes them: they are most of a
+  // character's memory, and what a copy of a character table would spend its time on.
+  cSharedTable<GROWTH_TABLE> m_avecGrow;        // per status, hundredths gained on reaching level n, at n-1
+  cSharedTable<GROWTH_TABLE> m_avecRandomGrow;  // the random part, same shape
+  cSharedTable<SENSE_TABLE> m_vecvecSense;
+  cSharedTable<SENSE_TABLE> m_vecvecSenseBase;
+  cSharedTable<SENSE_TABLE> m_vecvecSenseAdd;
   cSharedTable<PLACE_TABLE> m_vecvecSlot;
   cSharedTable<PLACE_TABLE> m_vecvecReserve;
   VECTOR_CLASS<cLearnSkill> m_vecLearnSkill;

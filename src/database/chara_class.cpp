@@ -19,6 +19,13 @@ int cParam::Serialize(int op, const cSerial* other, cSerialFile* file, std::uint
   return 1;
 }
 
+bool SenseFitsLists(const VECTOR_CLASS<VECTOR_CLASS<std::int32_t>>& sense) {
+  if (sense.size() != g_vecSkillList.size()) return false;
+  for (std::size_t list = 0; list < sense.size(); ++list)
+    if (sense[list].size() != g_vecSkillList[list].m_vecCateg.size()) return false;
+  return true;
+}
+
 void FitSenseToLists(VECTOR_CLASS<VECTOR_CLASS<std::int32_t>>& sense) {
   sense.resize(g_vecSkillList.size());
   for (std::size_t list = 0; list < sense.size(); ++list) {

@@ -80,3 +80,5 @@ class cClass : public cSerial {
 // Resizes `sense` to the skill lists of the project and each inner vector to its list's
 // categories; new entries are 0. Shared by classes and characters.
 void FitSenseToLists(VECTOR_CLASS<VECTOR_CLASS<std::int32_t>>& sense);
+// Whether FitSenseToLists would leave `sense` as it is.
+bool SenseFitsLists(const VECTOR_CLASS<VECTOR_CLASS<std::int32_t>>& sense);

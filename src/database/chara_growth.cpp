@@ -41,6 +41,12 @@ const SENSE_TABLE& ClassSense(const cClass* cls) {
   return cls != nullptr ? cls->m_vecvecSense : kNone;
 }
 
+cChara::GROWTH_TABLE ZeroGrowth(int levels) {
+  cChara::GROWTH_TABLE table;
+  for (auto& values : table) values.assign(static_cast<std::size_t>(levels), 0);
+  return table;
+}
+
 bool IsEquipmentKind(int kind) { return kind == 7 || kind == 8 || kind == 9; }
 
 }  // namespace
@@ -59,13 +65,11 @@ void cChara::ResolveStatus(int bKeepLevel) {
     m_abGrow[i] = final != 0 ? 1 : 0;
   }
   m_nLevelMax = std::max(cls->m_nLevelMax, 1);
-  for (int i = 0; i < kStatusCount; ++i) {
-    m_avecGrow[i].assign(static_cast<std::size_t>(m_nLevelMax), 0);
-    m_avecRandomGrow[i].assign(static_cast<std::size_t>(m_nLevelMax), 0);
-  }
+  m_avecGrow.Set(ZeroGrowth(m_nLevelMax));
+  m_avecRandomGrow = m_avecGrow;
   if (!bKeepLevel) {
-    m_vecvecSenseBase = Shaped(m_vecvecSense, [&](std::size_t l, std::size_t c) { return SenseAt(cls->m_vecvecSense, l, c); });
-    m_vecvecSenseAdd = Shaped(m_vecvecSense, [](std::size_t, std::size_t) { return 0; });
+    m_vecvecSenseBase.Set(Shaped(*m_vecvecSense, [&](std::size_t l, std::size_t c) { return SenseAt(cls->m_vecvecSense, l, c); }));
+    m_vecvecSenseAdd.Set(Shaped(*m_vecvecSense, [](std::size_t, std::size_t) { return 0; }));
     m_vecvecSense = m_vecvecSenseBase;
     ResetParams();
     m_nLevel = level;
@@ -76,18 +80,18 @@ void cChara::ResolveStatus(int bKeepLevel) {
 
 void cChara::ResetParams() {
   for (int i = 0; i < kStatusCount; ++i) {
-    m_aParam[i].m_nBase = m_aParam[i].m_nValue = m_anBaseInit[i] + At(m_avecRandomGrow[i], 0);
+    m_aParam[i].m_nBase = m_aParam[i].m_nValue = m_anBaseInit[i] + At((*m_avecRandomGrow)[i], 0);
   }
   const SENSE_TABLE& classSense = ClassSense(Class());
-  m_vecvecSenseBase = Shaped(m_vecvecSense, [&](std::size_t l, std::size_t c) { return SenseAt(classSense, l, c); });
+  m_vecvecSenseBase.Set(Shaped(*m_vecvecSense, [&](std::size_t l, std::size_t c) { return SenseAt(classSense, l, c); }));
   if (m_nBuiltVersion < 232) {
-    m_vecvecSenseAdd = Shaped(m_vecvecSense, [&](std::size_t l, std::size_t c) {
-      return SenseAt(m_vecvecSense, l, c) - SenseAt(m_vecvecSenseBase, l, c);
-    });
+    m_vecvecSenseAdd.Set(Shaped(*m_vecvecSense, [&](std::size_t l, std::size_t c) {
+      return SenseAt(*m_vecvecSense, l, c) - SenseAt(*m_vecvecSenseBase, l, c);
+    }));
   } else {
-    m_vecvecSense = Shaped(m_vecvecSense, [&](std::size_t l, std::size_t c) {
-      return SenseAt(m_vecvecSenseBase, l, c) + SenseAt(m_vecvecSenseAdd, l, c);
-    });
+    m_vecvecSense.Set(Shaped(*m_vecvecSense, [&](std::size_t l, std::size_t c) {
+      return SenseAt(*m_vecvecSenseBase, l, c) + SenseAt(*m_vecvecSenseAdd, l, c);
+    }));
   }
 }
 
@@ -101,7 +105,8 @@ void cChara::Generate(int bRandom, int nScout, int bMean, int bTableOnly, const 
   std::copy(std::begin(src.m_anBaseFinal), std::end(src.m_anBaseFinal), m_anBaseFinal);
   std::copy(std::begin(src.m_abGrow), std::end(src.m_abGrow), m_abGrow);
   m_nLevelMax = std::max(src.m_nLevelMax, 1);
-  for (auto& grow : m_avecGrow) grow.assign(static_cast<std::size_t>(m_nLevelMax), 0);
+  m_avecGrow.Set(ZeroGrowth(m_nLevelMax));
+  GROWTH_TABLE& grow = m_avecGrow.Edit();
 
   int g = m_nGrowthTime;
   if (!m_bRandomGrowth) {
@@ -124,7 +129,7 @@ void cChara::Generate(int bRandom, int nScout, int bMean, int bTableOnly, const 
   for (int i = 0; i < kStatusCount; ++i) {
     const double T = 100.0 * (static_cast<double>(m_anBaseFinal[i]) - m_anBaseInit[i]);
     const double a = L == 1 ? 0.0 : std::trunc(T / (L - 1) + 0.5);
-    for (int n = 2; n <= L; ++n) m_avecGrow[i][static_cast<std::size_t>(n - 1)] = static_cast<int>(std::trunc((n * A + B) * a));
+    for (int n = 2; n <= L; ++n) grow[i][static_cast<std::size_t>(n - 1)] = static_cast<int>(std::trunc((n * A + B) * a));
   }
   if (bTableOnly) {
     ResetParams();
@@ -135,7 +140,7 @@ void cChara::Generate(int bRandom, int nScout, int bMean, int bTableOnly, const 
   for (int i = 0; i < kStatusCount; ++i) {
     m_anFrac[i] = m_anFracInit[i] = (!m_bEnemy && m_bRandomGrowth && !bMean) ? CharaRandBelow(91) : 50;
   }
-  for (auto& grow : m_avecRandomGrow) grow.assign(static_cast<std::size_t>(m_nLevelMax), 0);
+  m_avecRandomGrow.Set(ZeroGrowth(m_nLevelMax));
   if (bMean) {
     ResetParams();
     RecalcStatus();
@@ -176,10 +181,11 @@ void cChara::Generate(int bRandom, int nScout, int bMean, int bTableOnly, const 
       }
     }
     if (L >= 2) {
+      GROWTH_TABLE& randomGrow = m_avecRandomGrow.Edit();
       for (int i = 0; i < kStatusCount; ++i) {
         const int unit = acc[i] < 0 ? -1 : 1;
         for (long long k = std::llabs(acc[i]); k > 0; --k) {
-          m_avecRandomGrow[i][static_cast<std::size_t>(CharaRandBelow(L - 1) + 1)] += unit;
+          randomGrow[i][static_cast<std::size_t>(CharaRandBelow(L - 1) + 1)] += unit;
         }
       }
     }
@@ -207,12 +213,12 @@ void cChara::Generate(int bRandom, int nScout, int bMean, int bTableOnly, const 
       total -= step;
       acc[static_cast<std::size_t>(l)][static_cast<std::size_t>(c)] += categs[static_cast<std::size_t>(c)].m_dRate * step;
     }
-    m_vecvecSenseAdd = Shaped(m_vecvecSense, [&](std::size_t l, std::size_t c) {
+    m_vecvecSenseAdd.Set(Shaped(*m_vecvecSense, [&](std::size_t l, std::size_t c) {
       return l < acc.size() && c < acc[l].size() ? static_cast<int>(std::trunc(acc[l][c])) : 0;
-    });
-    m_vecvecSense = Shaped(m_vecvecSense, [&](std::size_t l, std::size_t c) {
-      return std::min(SenseAt(m_vecvecSenseAdd, l, c) + SenseAt(m_vecvecSenseBase, l, c), kCappedSense);
-    });
+    }));
+    m_vecvecSense.Set(Shaped(*m_vecvecSense, [&](std::size_t l, std::size_t c) {
+      return std::min(SenseAt(*m_vecvecSenseAdd, l, c) + SenseAt(*m_vecvecSenseBase, l, c), kCappedSense);
+    }));
   }
 
   if (!m_bEnemy && m_bRandomSkill) {
@@ -221,7 +227,7 @@ void cChara::Generate(int bRandom, int nScout, int bMean, int bTableOnly, const 
       for (std::size_t row = 1; row < skills.size(); ++row) {
         const cSkill& skill = skills[row];
         if (skill.m_bNotUsed) continue;
-        const int v = SenseAt(m_vecvecSense, l, static_cast<std::size_t>(std::max(skill.m_nCateg, 0)));
+        const int v = SenseAt(*m_vecvecSense, l, static_cast<std::size_t>(std::max(skill.m_nCateg, 0)));
         if (v <= 0 || !CharaRollPercent(skill.m_nLearnRate + v * skill.m_dLearnRateSense)) continue;
         cLearnSkill learn;
         learn.m_nList = static_cast<int>(l);
@@ -274,7 +280,7 @@ void cChara::GainEX(int bPreview) {
         break;
       }
       for (int i = 0; i < kStatusCount; ++i) {
-        const long long s = static_cast<long long>(m_anFrac[i]) + At(m_avecGrow[i], m_nLevel) + At(m_avecRandomGrow[i], m_nLevel);
+        const long long s = static_cast<long long>(m_anFrac[i]) + At((*m_avecGrow)[i], m_nLevel) + At((*m_avecRandomGrow)[i], m_nLevel);
         const long long q = s / 100;
         const long long gain = s < 0 ? q - 1 : q;
         m_anFrac[i] = static_cast<int>(s < 0 ? s % 100 + 100 : s % 100);

@@ -1,15 +1,16 @@
 #pragma once
 // A large table inside a record that copies of the record share until one of them
-// changes it. A character holds a place per slot of every skill list, so that a copy of
-// an ally table (what a page of the database sheet works on) would copy hundreds of
-// megabytes which the page never edits; with the places shared, the copy is cheap and
-// only a character whose places change pays for its own.
+// changes it. A character holds a place per slot of every skill list, and its growth
+// and sense tables, so that a copy of an ally table (what a page of the database sheet
+// works on) would copy hundreds of megabytes which the page never edits; with them
+// shared, the copy is cheap and only a character whose tables change pays for its own.
 //
 // Reading goes through * and ->; writing only through Edit(), which first gives this
 // record a table of its own when another shares it. The compiler keeps every write on
 // that path.
 
 #include <memory>
+#include <utility>
 
 #include "kernel/serial.h"
 #include "kernel/serial_fields.h"
@@ -25,6 +26,8 @@ class cSharedTable {
     else if (m_p.use_count() > 1) m_p = std::make_shared<T>(*m_p);
     return *m_p;
   }
+  // A whole new table, which no copy needs to see first.
+  void Set(T value) { m_p = std::make_shared<T>(std::move(value)); }
   void Clear() { m_p.reset(); }
 
   // Whether `other` holds the very same table (not merely an equal one).
@@ -55,12 +58,12 @@ class cSharedTableEdit {
   T* m_pOwn = nullptr;
 };
 
-// The field function of a shared table of record vectors: a copy shares, writing and
-// comparing only read, and every other operation edits this record's own table.
-template <class T>
-int SerialSharedRecordVectorVector(int op, cSharedTable<VECTOR_CLASS<VECTOR_CLASS<T>>>& f,
-                                   const cSharedTable<VECTOR_CLASS<VECTOR_CLASS<T>>>* o, cSerialFile* file) {
-  using Table = VECTOR_CLASS<VECTOR_CLASS<T>>;
+// The field function of a shared table, over `field(table, otherTable)`, the field
+// function of the table itself: a copy shares, writing and comparing only read, and
+// every other operation edits this record's own table.
+template <class T, class Field>
+int SerialShared(int op, cSharedTable<T>& f, const cSharedTable<T>* o, Field field) {
+  const T* other = o != nullptr ? &**o : nullptr;
   switch (op) {
     case SERIAL_INIT: f.Clear(); return 1;
     case SERIAL_COPY:
@@ -71,7 +74,15 @@ int SerialSharedRecordVectorVector(int op, cSharedTable<VECTOR_CLASS<VECTOR_CLAS
     case SERIAL_NAME:
     case SERIAL_DESCRIBE:
       // These leave the table as it is; the field function only takes it by reference.
-      return SerialRecordVectorVector<T>(op, const_cast<Table&>(*f), o != nullptr ? &**o : nullptr, file);
-    default: return SerialRecordVectorVector<T>(op, f.Edit(), o != nullptr ? &**o : nullptr, file);
+      return field(const_cast<T&>(*f), other);
+    default: return field(f.Edit(), other);
   }
+}
+
+template <class T>
+int SerialSharedRecordVectorVector(int op, cSharedTable<VECTOR_CLASS<VECTOR_CLASS<T>>>& f,
+                                   const cSharedTable<VECTOR_CLASS<VECTOR_CLASS<T>>>* o, cSerialFile* file) {
+  return SerialShared(op, f, o, [&](VECTOR_CLASS<VECTOR_CLASS<T>>& t, const VECTOR_CLASS<VECTOR_CLASS<T>>* ot) {
+    return SerialRecordVectorVector<T>(op, t, ot, file);
+  });
 }

@@ -104,9 +104,10 @@ TEST_F(CharaTest, EnemyDropsTheFieldsOfVersions33And44Only) {
   EXPECT_TRUE(Compare(LoadedFrom<cFriend>(SavedStream(ally)), ally));
 }
 
-// A copy of a character (what a page of the database sheet works on) shares the places
-// until one side changes them; then only that side changes, in memory and in its file.
-TEST_F(CharaTest, CopiesShareThePlacesUntilOneOfThemChangesThem) {
+// A copy of a character (what a page of the database sheet works on) shares the places,
+// growth and sense until one side changes them; then only that side changes, in memory
+// and in its file.
+TEST_F(CharaTest, CopiesShareTheDerivedTablesUntilOneOfThemChangesThem) {
   cFriend ally;
   ally.FixRefs();
   ASSERT_EQ((*ally.m_vecvecSlot)[0].size(), 200u);
@@ -129,6 +130,20 @@ TEST_F(CharaTest, CopiesShareThePlacesUntilOneOfThemChangesThem) {
   // changes only its own character's.
   byWalk.FixRefs();
   EXPECT_TRUE(byWalk.m_vecvecSlot.SharesWith(ally.m_vecvecSlot));
+  EXPECT_TRUE(byWalk.m_avecGrow.SharesWith(ally.m_avecGrow) && byWalk.m_vecvecSenseAdd.SharesWith(ally.m_vecvecSenseAdd));
+
+  // The growth and sense tables likewise: a preview's generation on a copy gives the
+  // copy tables of its own and leaves the original's saved bytes alone.
+  cFriend grown = ally;
+  grown.m_nLevel = 20;
+  cFriend source = grown;
+  source.ResolveStatus(0);
+  grown.Generate(0, 0, 1, 0, source);
+  grown.LevelTo(20, 1, 1, 0);
+  EXPECT_FALSE(grown.m_avecGrow.SharesWith(ally.m_avecGrow) || grown.m_vecvecSenseBase.SharesWith(ally.m_vecvecSenseBase));
+  EXPECT_GT((*grown.m_avecGrow)[0][1], 0);
+  EXPECT_EQ(SavedStream(ally), saved);
+
   g_vecSkillList[0].m_nFreeSlots = 3;
   byWalk.FixRefs();
   EXPECT_FALSE(byWalk.m_vecvecSlot.SharesWith(ally.m_vecvecSlot));
@@ -155,7 +170,7 @@ TEST_F(CharaTest, RepairsReferencesIntoDeletedRows) {
   ally.FixRefs();
   EXPECT_EQ(std::tie(ally.m_nClass, ally.m_nMoneyVal, ally.m_nCompatiType, ally.m_nLevelMax, ally.m_nLevel),
             std::make_tuple(1, 1, 0, 30, 30));
-  EXPECT_EQ(std::make_tuple(ally.m_avecGrow[8].size(), ally.m_vecvecSense[1].size(), ally.m_vecLearnSkill.size()),
+  EXPECT_EQ(std::make_tuple((*ally.m_avecGrow)[8].size(), (*ally.m_vecvecSense)[1].size(), ally.m_vecLearnSkill.size()),
             std::make_tuple(30u, 3u, 1u));
   // The reserve keeps its valid skills across a repair; the stale place is erased.
   ASSERT_EQ((*ally.m_vecvecReserve)[1].size(), 199u);
@@ -216,32 +231,32 @@ TEST_F(CharaTest, GrowthCarriesFractionsFromLevelToLevel) {
   // The line is computed in doubles as the game computes it: for 5 levels its flat
   // value lands just below 1 and a level gains 149, not 150.
   SetClassRange(1, 10, 16, 5);
-  EXPECT_EQ(Leveled(1).m_avecGrow[3][1], 149);
+  EXPECT_EQ((*Leveled(1).m_avecGrow)[3][1], 149);
 
   // g = 0 on 30 levels: the same 100 at every level.
   SetClassRange(1, 10, 39, 30);
   cFriend flat = Leveled(1);
-  EXPECT_EQ(std::tie(flat.m_avecGrow[2][0], flat.m_avecGrow[2][1], flat.m_avecGrow[2][29]), std::make_tuple(0, 100, 100));
+  EXPECT_EQ(std::tie((*flat.m_avecGrow)[2][0], (*flat.m_avecGrow)[2][1], (*flat.m_avecGrow)[2][29]), std::make_tuple(0, 100, 100));
 
   // g = 10: the line rises from 0 at level 2 to twice the mean at the limit.
   g_System.m_nGrowTimeMin = g_System.m_nGrowTimeMax = 10;
   cFriend late = Leveled(1);
-  EXPECT_EQ(std::tie(late.m_avecGrow[2][1], late.m_avecGrow[2][29]), std::make_tuple(0, 200));
+  EXPECT_EQ(std::tie((*late.m_avecGrow)[2][1], (*late.m_avecGrow)[2][29]), std::make_tuple(0, 200));
 
   // Limit levels 1 and 2 give no growth; the preview still ends at the final value.
   for (int limit : {1, 2}) {
     SetClassRange(1, 10, 40, limit);
     cFriend small = Leveled(limit);
     EXPECT_EQ(small.m_aParam[2].m_nBase, limit == 1 ? 10 : 40) << limit;
-    EXPECT_EQ(small.m_avecGrow[2], VECTOR_CLASS<std::int32_t>(static_cast<std::size_t>(limit), 0));
+    EXPECT_EQ((*small.m_avecGrow)[2], VECTOR_CLASS<std::int32_t>(static_cast<std::size_t>(limit), 0));
   }
 }
 
 TEST_F(CharaTest, LevellingKeepsStatusInsideItsRange) {
   cFriend ally = Leveled(1);
-  ally.m_avecGrow[5][1] = -80;  // s = 50 - 80 = -30: one point down, fraction 70
+  ally.m_avecGrow.Edit()[5][1] = -80;  // s = 50 - 80 = -30: one point down, fraction 70
   ally.m_aParam[0].m_nBase = 1;
-  ally.m_avecGrow[0][1] = -500;
+  ally.m_avecGrow.Edit()[0][1] = -500;
   ally.m_nEX = 100;
   ally.GainEX(0);
   // HP never ends a level below 1.
@@ -282,14 +297,14 @@ TEST_F(CharaTest, SeededGenerationIsRepeatableAndEnds) {
     for (const auto& row : rows) total = std::accumulate(row.begin(), row.end(), total);
     return total;
   };
-  EXPECT_EQ(sum(a.m_avecRandomGrow), 2000);  // the whole total, in hundredths, spread over levels
-  EXPECT_EQ(sum(a.m_vecvecSenseAdd), 10);
+  EXPECT_EQ(sum(*a.m_avecRandomGrow), 2000);  // the whole total, in hundredths, spread over levels
+  EXPECT_EQ(sum(*a.m_vecvecSenseAdd), 10);
 
   // No status qualifies: random growth is skipped rather than searched for ever.
   std::fill(std::begin(g_System.m_adRate), std::end(g_System.m_adRate), 0.0);
   cEnemy enemy;
   enemy.m_bRandomSense = enemy.m_bRandomSkill = 1;
   generate(enemy);
-  EXPECT_EQ(enemy.m_vecvecSenseAdd[0][0], 0);  // enemies get no random sense or skills
+  EXPECT_EQ((*enemy.m_vecvecSenseAdd)[0][0], 0);  // enemies get no random sense or skills
   EXPECT_TRUE(enemy.m_vecLearnSkill.empty());
 }
