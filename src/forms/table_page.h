@@ -46,7 +46,7 @@ class cTablePage : public cDatabasePage {
   enum : unsigned { kIdNew = 11069, kIdClear = 11070, kIdCount = kIdListCount };
 
   cTablePage(VECTOR_CLASS<R>& table, const char* title, cTableRows rows)
-      : cDatabasePage(title), m_pTable(&table), m_Rows(rows) {}
+      : cDatabasePage(title), m_Edit(FirstEditRecord(table)), m_pTable(&table), m_Rows(rows) {}
 
   // Every row's number is its place; then, if the page has been shown, the working
   // copy goes over the table. A page never shown leaves its table alone.
@@ -126,6 +126,15 @@ class cTablePage : public cDatabasePage {
   }
 
  private:
+  // What the edit record holds until a row is selected. Where a default record builds
+  // large tables (a character, the places of every skill list), a copy of the first
+  // row shares them instead.
+  static R FirstEditRecord(const VECTOR_CLASS<R>& table) {
+    if constexpr (requires { R::kDefaultBuildsPlaces; })
+      if (!table.empty()) return table.front();
+    return R();
+  }
+
   VECTOR_CLASS<R>* m_pTable;
   cTableRows m_Rows;
   bool m_bShown = false;
