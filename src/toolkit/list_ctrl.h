@@ -4,6 +4,7 @@
 // record type; they differ in nothing but T. Row text comes from the form.
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -102,14 +103,19 @@ class CTRL_LIST_CLASS : public cListCtrlBase {
   VECTOR_CLASS<T>* m_pWork = nullptr;
   T* m_pEditRec = nullptr;
   VECTOR_CLASS<T> m_vecClip;
-  T m_Default{};
+  // The record the blank row stands for, made when first needed: a default character
+  // builds the places of every skill list.
+  std::optional<T> m_Default;
   std::function<void(std::string&, int, const T&)> m_pfnRowText;
 
  protected:
   int Size() const override { return m_pWork != nullptr ? m_pWork->Count() : 0; }
   bool HasEditRec() const override { return m_pEditRec != nullptr && m_pWork != nullptr; }
   void EditTakes(int e) override { ListCopyRecord(*m_pEditRec, (*m_pWork)[e]); }
-  void EditTakesDefault() override { ListCopyRecord(*m_pEditRec, m_Default); }
+  void EditTakesDefault() override {
+    if (!m_Default) m_Default.emplace();
+    ListCopyRecord(*m_pEditRec, *m_Default);
+  }
   void EditReset() override { ListResetRecord(*m_pEditRec); }
   void ElementTakesEdit(int e) override { ListCopyRecord((*m_pWork)[e], *m_pEditRec); }
   // A dead list (no vector) takes no rows.
@@ -125,7 +131,11 @@ class CTRL_LIST_CLASS : public cListCtrlBase {
     if (m_pWork != nullptr) ListDefaultRecord((*m_pWork)[e]);
   }
   void ResizeElements(int size) override {
-    if (m_pWork != nullptr) m_pWork->resize(size);
+    if (m_pWork == nullptr) return;
+    // New rows are copies of one default record, which share what a character's
+    // default builds.
+    if (size > m_pWork->Count()) m_pWork->resize(static_cast<std::size_t>(size), T());
+    else m_pWork->resize(static_cast<std::size_t>(size));
   }
   void SwapElements(int a, int b) override {
     if (m_pWork != nullptr) std::swap((*m_pWork)[a], (*m_pWork)[b]);

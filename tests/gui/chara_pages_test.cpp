@@ -122,8 +122,18 @@ TEST_F(CharaPagesTest, ThePagesAndTheApplyShareTheCharactersPlacesWithTheTables)
   auto* page = ShowPage<DLG_DBFRIEND>(1);
   ASSERT_GE(g_vecFriend.Count(), 2);
   EXPECT_TRUE(page->m_vecWork[1].m_vecvecSlot.SharesWith(g_vecFriend[1].m_vecvecSlot));
+  EXPECT_TRUE(page->m_vecWork[1].m_avecGrow.SharesWith(g_vecFriend[1].m_avecGrow));
   SheetButton("適用")->click();
   EXPECT_TRUE(page->m_vecWork[1].m_vecvecSlot.SharesWith(g_vecFriend[1].m_vecvecSlot));
+
+  // The rows "ﾃﾞｰﾀ数" adds are copies of one default character, which share its places.
+  const int rows = page->m_List.RowCount();
+  AnswerNumber(rows + 2);
+  page->SendCommand(DLG_DBFRIEND::kIdCount, kNotifyClicked);
+  ASSERT_EQ(page->m_vecWork.Count(), rows + 3);
+  const cFriend& added = page->m_vecWork[static_cast<std::size_t>(rows + 1)];
+  EXPECT_TRUE(added.m_vecvecSlot.SharesWith(page->m_vecWork[static_cast<std::size_t>(rows + 2)].m_vecvecSlot));
+  EXPECT_TRUE(Compare(added, cFriend()));
 }
 
 TEST_F(CharaPagesTest, ARenamedClassShowsUnderItsOldNameUntilTheSheetIsApplied) {
