@@ -108,7 +108,14 @@ void CTRL_LISTVIEW_CLASS::Sync() {
     w->clear();
     QStringList texts;
     texts.reserve(static_cast<qsizetype>(b.rows.size()));
-    for (const std::string& row : b.rows) texts.push_back(QString::fromStdString(Cp932ToUtf8Lossy(row)));
+    bool oneLine = true;
+    for (const std::string& row : b.rows) {
+      texts.push_back(QString::fromStdString(Cp932ToUtf8Lossy(row)));
+      oneLine = oneLine && row.find('\n') == std::string::npos;
+    }
+    // Rows of one line each have one height, which the view then measures once instead
+    // of for every row of a table of 999. A message's row may keep its line breaks.
+    w->setUniformItemSizes(oneLine);
     w->addItems(texts);
     m_nRowsRev = b.rowsRevision;
   }

@@ -101,9 +101,6 @@ cListWidget::cListWidget(QWidget* parent) : QListWidget(parent) {
   // As a list box, rows end at its right edge: the blank row's hyphens are wider than
   // most lists and would otherwise bring a bar across every one of them.
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  // Every row is one line of the list's font, as a list box's rows are; without this the
-  // view measures all 999 rows of a table before it can show or scroll to one.
-  setUniformItemSizes(true);
   connect(this, &QListWidget::itemSelectionChanged, this, [this] {
     if (onSelChange) onSelChange();
   });

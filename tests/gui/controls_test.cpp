@@ -92,6 +92,19 @@ TEST(ListControl, AMultipleSelectionSurvivesARefillOfTheRows) {
   form.End(0);
 }
 
+TEST(ListControl, RowsShareOneHeightUnlessARowKeepsALineBreak) {
+  DLG_ROWS form(VECTOR_CLASS<int>{1, 2, 3});
+  ASSERT_TRUE(form.Create(0, false));
+  QListWidget* list = form.List();
+  EXPECT_TRUE(list->uniformItemSizes());
+  form.m_List.m_pfnRowText = [](std::string& out, int, const int& v) { out = v == 2 ? "two\r\nlines" : std::to_string(v); };
+  form.m_List.Redraw();
+  form.UpdateAll();
+  EXPECT_FALSE(list->uniformItemSizes());
+  EXPECT_GT(list->visualItemRect(list->item(1)).height(), list->visualItemRect(list->item(0)).height());
+  form.End(0);
+}
+
 TEST(Combo, AValueOutsideTheTableShowsNoRowAndKeepsItsFieldAndShrunkLabelsKeepTheLastRow) {
   DLG_ROWS form(VECTOR_CLASS<int>{1});
   ASSERT_TRUE(form.Create(0, false));
