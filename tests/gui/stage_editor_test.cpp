@@ -26,6 +26,7 @@
 #include "forms/event/dlg_event_set.h"
 #include "forms/event/dlg_eventact.h"
 #include "gui/app_test_support.h"
+#include "gui/editor_shell_fixture.h"
 #include "gui/stage_form_support.h"
 #include "platform/cp932.h"
 #include "project/project_globals.h"
@@ -37,30 +38,16 @@ namespace fs = std::filesystem;
 
 namespace {
 
-class StageEditorTest : public TemplateProjectTest {
+class StageEditorTest : public EditorShellTest {
  protected:
   void SetUp() override {
-    TemplateProjectTest::SetUp();
-    fs::copy("default", "data", fs::copy_options::recursive);
-    ASSERT_TRUE(StartUp(m_shell));
-    m_view = m_shell.m_pView.get();
+    EditorShellTest::SetUp();
     m_view->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(m_view));
-  }
-  void TearDown() override {
-    if (m_view != nullptr) {
-      m_view->m_bAskOnClose = false;
-      m_view->close();
-    }
-    ShutDown();
-    TemplateProjectTest::TearDown();
   }
   QAction* Menu(int id) const { return m_view->Commands().MenuAction(id); }
   QAction* Tool(int id) const { return m_view->Commands().ToolAction(id); }
   int Cell(int x, int y) const { return g_Stage.m_vecMap[g_Stage.CellIndex(x, y)]; }
-
-  cEditorShell m_shell;
-  VIEW_MAIN* m_view = nullptr;
 };
 
 TEST_F(StageEditorTest, AChipChosenInThePaletteIsDrawnByAPenStrokeAndOneUndoRestoresTheCells) {

@@ -18,6 +18,7 @@
 #include "editor/editor_shell.h"
 #include "editor/view_main.h"
 #include "gui/app_test_support.h"
+#include "gui/editor_shell_fixture.h"
 #include "platform/clock.h"
 #include "platform/cp932.h"
 #include "project/project_globals.h"
@@ -48,23 +49,14 @@ class cOutputToFile {
   int m_saved;
 };
 
-class TestPlayRunTest : public TemplateProjectTest {
+class TestPlayRunTest : public EditorShellTest {
  protected:
-  void SetUp() override {
-    TemplateProjectTest::SetUp();
-    fs::copy("default", "data", fs::copy_options::recursive);
-    // Any name will do: the editor knows the game by its mark alone.
-    fs::copy_file(ORTALUNE_STANDIN_GAME, "the game");
-    ASSERT_TRUE(StartUp(m_shell));
-    m_view = m_shell.m_pView.get();
-  }
+  // Any name will do: the editor knows the game by its mark alone.
+  void PrepareProject() override { fs::copy_file(ORTALUNE_STANDIN_GAME, "the game"); }
   void TearDown() override {
     ::unsetenv("ORTALUNE_STANDIN_OPTIONS");
-    m_view->m_bAskOnClose = false;
-    m_view->close();
-    ShutDown();
+    EditorShellTest::TearDown();
     bTestPlay = 0;
-    TemplateProjectTest::TearDown();
   }
   // F5 pressed in `window` with the game's options, its output going to game.txt.
   void PressF5(QWidget* window, const char* options) {
@@ -76,8 +68,6 @@ class TestPlayRunTest : public TemplateProjectTest {
     return QTest::qWaitFor([&] { return FileText("game.txt").find(text) != std::string::npos; }, 20000);
   }
 
-  cEditorShell m_shell;
-  VIEW_MAIN* m_view = nullptr;
 };
 
 TEST_F(TestPlayRunTest, TheStandInReadsTheOpenStageAndItsEndMessageEndsTheTest) {

@@ -9,7 +9,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
-#include <filesystem>
 
 #include "app/stage_commands.h"
 #include "app/world_commands.h"
@@ -22,37 +21,24 @@
 #include "editor/editor_shell.h"
 #include "editor/view_main.h"
 #include "gui/app_test_support.h"
+#include "gui/editor_shell_fixture.h"
 #include "gui/stage_form_support.h"
 #include "project/project_globals.h"
 #include "stage/world_edit.h"
 
-namespace fs = std::filesystem;
-
 namespace {
 
-class WorldMapEditorTest : public TemplateProjectTest {
+class WorldMapEditorTest : public EditorShellTest {
  protected:
-  void SetUp() override {
-    TemplateProjectTest::SetUp();
-    fs::copy("default", "data", fs::copy_options::recursive);
-    ASSERT_TRUE(StartUp(m_shell));
-    m_view = m_shell.m_pView.get();
-  }
   void TearDown() override {
     if (g_pDlgWorldMap != nullptr) {
       g_EditState.m_bWorldModified = 0;
       g_pDlgWorldMap->close();
     }
-    m_view->m_bAskOnClose = false;
-    m_view->close();
-    ShutDown();
-    TemplateProjectTest::TearDown();
+    EditorShellTest::TearDown();
   }
   int Cell(int x, int y) const { return g_WorldMap.m_vecMap[g_WorldMap.CellIndex(x, y)]; }
   static QPoint At(int x, int y) { return {x * 32 + 5, y * 32 + 5}; }
-
-  cEditorShell m_shell;
-  VIEW_MAIN* m_view = nullptr;
 };
 
 TEST_F(WorldMapEditorTest, OpenDrawPlaceAnEventSaveCloseAndReadTheFileBack) {
