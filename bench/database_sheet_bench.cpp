@@ -10,17 +10,20 @@
 //                                       preview and the player
 //
 // The first steps run again over tables of one row, which parts what the rows cost from
-// what the page's controls cost whatever the size of the table. The sheet runs on Qt's
-// offscreen platform.
+// what the page's controls cost whatever the size of the table; and over a bare copy of
+// the page's controls in plain Qt widgets, without layouts or bindings, which is what Qt
+// alone costs for them. The sheet runs on Qt's offscreen platform.
 
 #include <benchmark/benchmark.h>
 
+#include "bare_widget_copy.h"
 #include "large_project.h"
 #include "ratio_reporter.h"
 
 #include <QApplication>
 #include <QListWidget>
 #include <cstdio>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -136,6 +139,45 @@ void BM_ShowPage(benchmark::State& state) {
   }
 }
 
+// The controls of the sheet shown on `page`, written down from the sheet itself.
+const cBareWidgetCopy& BareCopy(int page) {
+  static std::map<int, cBareWidgetCopy> copies;
+  if (auto it = copies.find(page); it != copies.end()) return it->second;
+  Project();
+  PROP_DATABASE* sheet = OpenDatabaseSheet(nullptr, {});
+  sheet->SetCurrentPage(page);
+  Settle();
+  const cBareWidgetCopy& copy = copies.emplace(page, cBareWidgetCopy(sheet->m_hWnd)).first->second;
+  CloseSheet(sheet);
+  return copy;
+}
+
+void BM_BareOpen(benchmark::State& state) {
+  const cBareWidgetCopy& copy = BareCopy(0);
+  for (auto _ : state) {
+    std::unique_ptr<QWidget> window = copy.ShowWhole();
+    Settle();
+    state.PauseTiming();
+    window.reset();
+    state.ResumeTiming();
+  }
+}
+
+void BM_BareShowPage(benchmark::State& state) {
+  const cBareWidgetCopy& copy = BareCopy(static_cast<int>(state.range(0)));
+  for (auto _ : state) {
+    state.PauseTiming();
+    std::unique_ptr<QWidget> window = copy.ShowFrame();
+    Settle();
+    state.ResumeTiming();
+    copy.ShowPage(*window);
+    Settle();
+    state.PauseTiming();
+    window.reset();
+    state.ResumeTiming();
+  }
+}
+
 void BM_Apply(benchmark::State& state) {
   Project();
   PROP_DATABASE* sheet = OpenDatabaseSheet(nullptr, {});
@@ -225,6 +267,8 @@ BENCHMARK(BM_PlainList)->Unit(benchmark::kMillisecond)->MinTime(1.0);
 BENCHMARK(BM_CopyAndPlainList)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->MinTime(1.0)->MinWarmUpTime(1.0);
 BENCHMARK(BM_OpenSheet)->Arg(999)->Arg(1)->Unit(benchmark::kMillisecond)->MinTime(1.0);
 BENCHMARK(BM_ShowPage)->Args({1, 999})->Args({2, 999})->Args({1, 1})->Args({2, 1})->Unit(benchmark::kMillisecond)->MinTime(1.0);
+BENCHMARK(BM_BareOpen)->Unit(benchmark::kMillisecond)->MinTime(1.0);
+BENCHMARK(BM_BareShowPage)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->MinTime(1.0);
 BENCHMARK(BM_Apply)->Unit(benchmark::kMillisecond)->MinTime(2.0);
 BENCHMARK(BM_SaveAllDatabase)->Unit(benchmark::kMillisecond)->MinTime(2.0);
 BENCHMARK(BM_FillWithoutRules)->Unit(benchmark::kMillisecond)->MinTime(2.0);
@@ -244,18 +288,24 @@ int main(int argc, char** argv) {
   // What the 998 rows more than a table of one row add, against the plain list of them.
   const auto rowsPart = [list](double full, double oneRow) { return (full - oneRow) / list; };
   if (list > 0) {
-    const double open = reporter.Time("BM_OpenSheet/999/min_time:1.000");
-    std::printf("Opening the sheet on page 0: %.2f times a plain list of the same rows (target: at most 1.5); "
-                "the rows add %.2f times it\n",
-                open / list, rowsPart(open, reporter.Time("BM_OpenSheet/1/min_time:1.000")));
+    // Each step against the plain list, then what lies under it: the same controls in bare
+    // Qt, and what the 998 rows beyond a table of one add.
+    const auto print = [&](const std::string& step, double full, double oneRow, double bare) {
+      std::printf("%s: %.2f times a plain list of the same rows (target: at most 1.5)\n"
+                  "  the same controls in bare Qt, without layouts or bindings: %.2f times it\n"
+                  "  the rows beyond a table of one: %.2f times it\n",
+                  step.c_str(), full / list, bare / list, rowsPart(full, oneRow));
+    };
+    print("Opening the sheet on page 0", reporter.Time("BM_OpenSheet/999/min_time:1.000"),
+          reporter.Time("BM_OpenSheet/1/min_time:1.000"), reporter.Time("BM_BareOpen/min_time:1.000"));
     for (int page : {1, 2}) {
       const std::string arg = std::to_string(page) + "/min_time:1.000";
       const double shown = reporter.Time("BM_ShowPage/" + std::to_string(page) + "/999/min_time:1.000");
-      const double oneRow = reporter.Time("BM_ShowPage/" + std::to_string(page) + "/1/min_time:1.000");
+      print("Page " + std::to_string(page) + " the first time", shown,
+            reporter.Time("BM_ShowPage/" + std::to_string(page) + "/1/min_time:1.000"),
+            reporter.Time("BM_BareShowPage/" + arg));
       const double floor = reporter.Time("BM_CopyAndPlainList/" + arg + "/min_warmup_time:1.000");
-      std::printf("Page %d the first time: %.2f times a plain list of the same rows (target: at most 1.5); "
-                  "%.2f times copying the table and the plain list; the rows add %.2f times the plain list\n",
-                  page, shown / list, floor > 0 ? shown / floor : 0.0, rowsPart(shown, oneRow));
+      if (floor > 0) std::printf("  against copying the table and the plain list: %.2f times\n", shown / floor);
     }
   }
   if (save > 0)
