@@ -12,6 +12,14 @@ void cEditStrRules::Bind(const cEditStrInit& init, cEditBox& box) {
   SetText(box, *m_pStr);
 }
 
+bool ReadsItsLines(const cEditStrInit& init) {
+  if (init.nLineLen <= 0 || init.nMaxLines <= 0) return true;  // no lines given: the limit alone rules
+  const int limit = init.nLimit > 0 ? init.nLimit : 4096;
+  const int read = init.bWide ? limit * 2 - 1 : limit;
+  const int line = init.bWide ? init.nLineLen * 2 : init.nLineLen;  // a double-byte character per place
+  return read >= init.nMaxLines * line + (init.nMaxLines - 1) * 2;   // lines end in CR LF
+}
+
 void cEditStrRules::SetText(cEditBox& box, const std::string& text) {
   box.text = text;
   box.selStart = box.selEnd = 0;

@@ -30,6 +30,10 @@ struct cEditStrInit {
 // character counting as one.
 inline cEditStrInit WideLine(int chars) { return {.nLimit = chars + 1, .nLineLen = chars, .nMaxLines = 1, .bWide = 1}; }
 
+// Whether a field that gives its lines reads back as much as they hold. Too small a
+// limit cuts the last character of a full text, and trims a stored one when it shows.
+bool ReadsItsLines(const cEditStrInit& init);
+
 class cEditStrRules {
  public:
   void Bind(const cEditStrInit& init, cEditBox& box);

@@ -361,6 +361,8 @@ std::vector<std::string> cFormTable::Problems() const {
       if (!seen.count(id))
         problems.push_back("control " + std::to_string(e.id) + " is enabled by " + std::to_string(id) +
                            ", which the form does not declare");
+    if (auto* edit = dynamic_cast<const CTRL_EDITSTR_CLASS*>(e.ctrl.get()); edit != nullptr && !ReadsItsLines(edit->m_Init))
+      problems.push_back("control " + std::to_string(e.id) + " reads back less than its lines hold");
   }
   return problems;
 }

@@ -4,7 +4,7 @@
 
 DLG_CATEG::DLG_CATEG(const cCateg& source, QWidget* parent) : cRecordForm(parent, "カテゴリー", source) {
   cFormTable& F = Table();
-  F.EditStr(kName, "名称", &m_Work.m_strName, {.nLimit = 1, .nLineLen = 2, .nMaxLines = 1, .bWide = 1}).Row();
+  F.EditStr(kName, "名称", &m_Work.m_strName, WideLine(1)).Row();
   F.Combo(kSymbol, "シンボル", &m_Work.m_nSymbol, &SymbolNumberLabels());
   F.Picture(kSymbolPreview, "シンボル", 32, 32).Row();
   F.EditVal(kRate, "レート", &m_Work.m_dRate, 0.0, 99.9, 0.1, kRateSpin).Row();

@@ -14,7 +14,7 @@ void SetComboRows(DLG_CLASS& page, unsigned id, const VECTOR_CLASS<std::string>&
 }  // namespace
 
 void cCharaControls::DeclareProfile(cFormTable& F, cChara& E) {
-  F.EditStr(kName, "名前", &E.m_strName, {.nLimit = 12, .nLineLen = 12, .nMaxLines = 1, .bWide = 1}).Row();
+  F.EditStr(kName, "名前", &E.m_strName, WideLine(12)).Row();
   F.Check(kRandomName, "ランダムで名前を決定", &E.m_bRandomName).Span(2).Row();
   F.Combo(kNameFile, "ランダム名前リストファイル", &E.m_nNameFile, &g_vecNameFile)
       .LabelAbove()

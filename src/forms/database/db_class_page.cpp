@@ -34,7 +34,7 @@ DLG_DBCLASS::DLG_DBCLASS() : cTablePage(g_vecClass, "クラス", {1, 1, 999}) {
   MainList(kList, "クラス", [](const cClass& c) { return c.m_strName; }, 20);
 
   F.Column();
-  F.EditStr(kName, "クラス名", &E.m_strName, {.nLimit = 12, .nLineLen = 12, .nMaxLines = 1, .bWide = 1}).Span(2).Row();
+  F.EditStr(kName, "クラス名", &E.m_strName, WideLine(12)).Span(2).Row();
   F.Group("グラフィック");
   F.EditVal(kGraphic, "グラフィック", &E.m_nGraphic, 1, 159, 1, kGraphicSpin);
   F.Button(kGraphicList, "一覧").Row();

@@ -30,7 +30,7 @@ DLG_DBSKILLTYPE::DLG_DBSKILLTYPE() : cTablePage(g_Database.m_vecCompatiType, "�
   F.Column();
   MainList(kList, "相性タイプ", [](const cCompatiType& t) { return t.m_strName; }, 20);
   F.Column();
-  F.EditStr(kName, "名称", &E.m_strName, {.nLimit = 6, .nLineLen = 6, .nMaxLines = 1, .bWide = 1}).Span(3).Row();
+  F.EditStr(kName, "名称", &E.m_strName, WideLine(6)).Span(3).Row();
   F.List(kRules, "相性", m_Rules, rules, kListSecondFree, 14).LabelAbove().Span(3).Row();
   F.Button(kInsert, "挿入").Button(kEdit, "編集").Button(kDelete, "削除").Row();
   F.EndColumns();

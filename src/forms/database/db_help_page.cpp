@@ -46,8 +46,8 @@ DLG_DB_HELP::DLG_DB_HELP() : cTablePage(g_Database.m_vecHelp, "ヘルプ", {0, 1
   F.Column();
   MainList(kList, "ヘルプ", [](const cEdHelp& h) { return h.m_strTitle; }, 20);
   F.Column();
-  F.EditStr(kParent, "親見出し", &E.m_strParent, {.nLimit = 30, .nLineLen = 30, .nMaxLines = 1, .bWide = 1}).Span(3).Row();
-  F.EditStr(kTitle, "見出し", &E.m_strTitle, {.nLimit = 30, .nLineLen = 30, .nMaxLines = 1, .bWide = 1}).Span(3).Row();
+  F.EditStr(kParent, "親見出し", &E.m_strParent, WideLine(30)).Span(3).Row();
+  F.EditStr(kTitle, "見出し", &E.m_strTitle, WideLine(30)).Span(3).Row();
   F.List(kPages, "本文", m_Pages, pages, kListSecondFree, 12).LabelAbove().Span(4).Row();
   F.Button(kInsert, "挿入").Button(kEdit, "編集").Button(kDelete, "削除").Row();
   F.Combo(kSymbol, "参照：#P", &m_nSymbol, &SymbolNumberLabels());

@@ -22,7 +22,7 @@ DLG_DBLAND::DLG_DBLAND() : cTablePage(g_vecLand, "地形", {0, 1, 999}) {
   MainList(kList, "地形", [](const cLand& l) { return l.m_strName; }, 20);
 
   F.Column();
-  F.EditStr(kName, "名称", &E.m_strName, {.nLimit = 8, .nLineLen = 8, .nMaxLines = 1, .bWide = 1}).Span(2).Row();
+  F.EditStr(kName, "名称", &E.m_strName, WideLine(8)).Span(2).Row();
   F.EditVal(kMoveCost, "移動コスト", &E.m_nMoveCost, 1, 9, 1, kMoveCostSpin);
   F.Check(kNoMove, "移動不可", &E.m_bNoMove).Row();
   F.Group("グラフィック");
@@ -34,7 +34,7 @@ DLG_DBLAND::DLG_DBLAND() : cTablePage(g_vecLand, "地形", {0, 1, 999}) {
   F.Combo(kSpecial, "特殊効果", &E.m_nSpecial, LANDSPECIAL);
   F.EditVal(kSpecialValue, "", &E.m_nSpecialValue, 0, 999999).Row();
   F.Check(kTraining, "トレーニングで選択可", &E.m_bTraining).Span(2).Row();
-  F.EditStr(kDesc, "説明", &E.m_strDesc, {.nLimit = 32, .nLineLen = 32, .nMaxLines = 1, .bWide = 1}).Span(3).Row();
+  F.EditStr(kDesc, "説明", &E.m_strDesc, WideLine(32)).Span(3).Row();
   F.Combo(kSymbol, "参照：#P", &m_nSymbol, &SymbolNumberLabels());
   F.Picture(kSymbolPreview, "参照：#P", 32, 32).Row();
 

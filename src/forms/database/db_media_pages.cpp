@@ -53,7 +53,7 @@ cMediaPage<R>::cMediaPage(const cMediaPageKind& kind) : cTablePage<R>(TableOf(st
   F.Column();
   this->MainList(kList, kind.caption, [](const R& r) { return r.m_strName; }, 20);
   F.Column();
-  F.EditStr(kName, "名称", &E.m_strName, {.nLimit = 12, .nLineLen = 12, .nMaxLines = 1, .bWide = 1})
+  F.EditStr(kName, "名称", &E.m_strName, WideLine(12))
       .Span(2)
       .DisableBy(kSameName)
       .Row();
@@ -118,7 +118,7 @@ DLG_DB_BACK::DLG_DB_BACK() : cTablePage(g_Database.m_vecBack, "バック", {1, 1
   F.Column();
   MainList(kList, "バック", [](const cEdBack& b) { return b.m_strName; }, 20);
   F.Column();
-  F.EditStr(kName, "名称", &E.m_strName, {.nLimit = 12, .nLineLen = 12, .nMaxLines = 1, .bWide = 1}).Span(3).Row();
+  F.EditStr(kName, "名称", &E.m_strName, WideLine(12)).Span(3).Row();
   F.Combo(kKind, "表示タイプ", &E.m_nKind, BACKKIND).Span(3).Row();
   F.Group("マップチップの幅(横、縦)(dot)");
   F.EditVal(kChipW, "横", &E.m_nChipW, 1, 640).EnableIf(kindIs(BACKKIND_CHIPS));

@@ -109,7 +109,7 @@ DLG_DBSKILLLIST::DLG_DBSKILLLIST() : cTablePage(g_vecSkillList, "スキル", {0,
     F.Group(k.title);
     if (k.flag != nullptr) F.Check(k.check, checkLabels[c], k.flag).Span(2).Row();
     for (int t = 0; t < kConfirmCount; ++t) {
-      F.EditStr(k.text + t, "", &(*k.texts)[t], {.nLimit = 8, .nLineLen = 8, .nMaxLines = 1, .bWide = 1});
+      F.EditStr(k.text + t, "", &(*k.texts)[t], WideLine(8));
       if (k.flag != nullptr) F.EnableBy(k.check);
     }
     F.Row();
@@ -117,7 +117,7 @@ DLG_DBSKILLLIST::DLG_DBSKILLLIST() : cTablePage(g_vecSkillList, "スキル", {0,
   }
 
   F.Column();
-  F.EditStr(kName, "名称", &E.m_strName, {.nLimit = 12, .nLineLen = 12, .nMaxLines = 1, .bWide = 1}).Row();
+  F.EditStr(kName, "名称", &E.m_strName, WideLine(12)).Row();
   F.Combo(kSlotType, "スロットタイプ", &E.m_nSlotType, kSlotTypeLabels).LabelAbove().Span(2).Row();
   F.List(kSlots, "スロット", m_Slots, EntryList<cSlot>(&E.m_vecSlot, [this](std::string& out, int, const cSlot& s) {
            cSlot shown = s;  // the summary repairs what it reads; the row keeps its own
@@ -137,7 +137,7 @@ DLG_DBSKILLLIST::DLG_DBSKILLLIST() : cTablePage(g_vecSkillList, "スキル", {0,
           &E.m_bStatusSense)
       .Span(2)
       .Row();
-  F.EditStr(kSenseName, "センス　→", &E.m_strSenseName, {.nLimit = 6, .nLineLen = 6, .nMaxLines = 1, .bWide = 1})
+  F.EditStr(kSenseName, "センス　→", &E.m_strSenseName, WideLine(6))
       .EnableBy(kStatusSense)
       .Row();
   F.Check(kSameSkill, "同じ種類のスキルを複数習得可", &E.m_bSameSkill).Span(2).Row();
@@ -161,7 +161,7 @@ DLG_DBSKILLLIST::DLG_DBSKILLLIST() : cTablePage(g_vecSkillList, "スキル", {0,
   F.Group("スキル編成メニュー");
   for (int m = 0; m < kMenuCount; ++m) {
     F.Check(kMenuOn + m, kMenuLabels[m], &m_Shown.aMenuOn[m]);
-    F.EditStr(kMenuName + m, "", &m_Shown.aMenu[m], {.nLimit = 12, .nLineLen = 12, .nMaxLines = 1, .bWide = 1})
+    F.EditStr(kMenuName + m, "", &m_Shown.aMenu[m], WideLine(12))
         .Named(kMenuLabels[m])
         .EnableBy(kMenuOn + m)
         .Row();

@@ -94,9 +94,9 @@ DLG_DBSKILL::DLG_DBSKILL(cSkillSheetList list)
   F.EndGroup();
   F.Column();
   F.Group("基本");
-  F.EditStr(kName, "スキル名", &E.m_strName, {.nLimit = 8, .nLineLen = 8, .nMaxLines = 1, .bWide = 1});
+  F.EditStr(kName, "スキル名", &E.m_strName, WideLine(8));
   F.Check(kNotUsed, "未使用", &E.m_bNotUsed).Row();
-  F.EditStr(kDesc, "説明", &E.m_strDesc, {.nLimit = 38, .nLineLen = 13, .nMaxLines = 1, .bWide = 1}).Span(2).Row();
+  F.EditStr(kDesc, "説明", &E.m_strDesc, WideLine(38)).Span(2).Row();
   F.Combo(kKind, "種類", &E.m_nKind, kSkillKindLabels).Span(2).Row();
   F.Combo(kTarget, "対象", &E.m_nTarget, kSkillTargetLabels).Span(2).Row();
   F.Combo(kWeapon, "対応する武器スキル", &E.m_nWeaponType, kSkillWeaponLabels).LabelAbove().Span(3).Row();

@@ -11,8 +11,8 @@ DLG_DB_PTVAL::DLG_DB_PTVAL() : cTablePage(g_Database.m_vecPtVal, "パーティ�
   F.Column();
   MainList(kList, "パーティー変数", [](const cPtVal& v) { return v.m_strName; }, 20);
   F.Column();
-  F.EditStr(kName, "名称", &E.m_strName, {.nLimit = 12, .nLineLen = 12, .nMaxLines = 1, .bWide = 1}).Span(2).Row();
-  F.EditStr(kUnit, "単位", &E.m_strUnit, {.nLimit = 1, .nLineLen = 1, .nMaxLines = 1, .bWide = 1}).Row();
+  F.EditStr(kName, "名称", &E.m_strName, WideLine(12)).Span(2).Row();
+  F.EditStr(kUnit, "単位", &E.m_strUnit, WideLine(1)).Row();
   F.Combo(kCommonVar, "コモン変数", &E.m_nCommonVar, &CommonVarLabels());
   F.Button(kRename, "_").Row();
   F.Skip().Text("☆パーティー変数の実体").Row();
@@ -35,7 +35,7 @@ DLG_DBWORLDCHIP::DLG_DBWORLDCHIP() : cTablePage(g_WorldMap.m_vecChip, "ワール
   F.Column();
   MainList(kList, "ワールドチップ", [](const cWorldChip& c) { return c.m_strName; }, 20);
   F.Column();
-  F.EditStr(kName, "名称", &E.m_strName, {.nLimit = 8, .nLineLen = 8, .nMaxLines = 1, .bWide = 1}).Row();
+  F.EditStr(kName, "名称", &E.m_strName, WideLine(8)).Row();
   F.Check(kNoMove, "移動不可", &E.m_bNoMove).Span(2).Row();
   F.EditVal(kGraphic, "グラフィック", &E.m_nGraphic, 0, 255, 1, kGraphicSpin).Row();
   F.Picture(kChip, "グラフィック", kMapCellPx, kMapCellPx).Row();
