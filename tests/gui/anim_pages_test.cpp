@@ -75,6 +75,11 @@ class AnimPagesTest : public DatabaseSheetTest {
 
 TEST_F(AnimPagesTest, OneFrameOfTimeOneKeepsShowingAndAFrameOfTimeZeroShowsForOneTick) {
   EXPECT_EQ(Ticks(*Page(2), 5), (std::vector<int>{4, 4, 4, 4, 4}));
+  // A pattern keeps its one frame: the list refuses to delete it.
+  DLG_DB_CHARAANIM* page = Page(2);
+  Click(ListOf(*page, DLG_DB_CHARAANIM::kFrames), 0);
+  page->SendCommand(DLG_DB_CHARAANIM::kFrameDelete, kNotifyClicked);
+  EXPECT_EQ(page->m_Edit.m_vecAnim.Count(), 1);
   EXPECT_EQ(Ticks(*Page(3), 6), (std::vector<int>{6, 6, 3, 6, 6, 3}));
   EXPECT_EQ(Ticks(*Page(1), 7), (std::vector<int>{0, 0, 1, 1, 2, 2, 0}));
 }

@@ -27,7 +27,7 @@ DLG_BATTLEAI::DLG_BATTLEAI(const cBattleAI& source, QWidget* parent) : cRecordFo
           &W.m_bNoEvaluate)
       .Span(3)
       .Row();
-  m_Conds.Declare(F, "条件(全条件を満たせば、使用候補になる)", &W.m_vecCond, 99,
+  m_Conds.Declare(F, "条件(全条件を満たせば、使用候補になる)", &W.m_vecCond, 0, 99,
                   [](const cBattleAICond& c) { return SummaryBattleAICond(c); }, kListFirstFree, 6);
   F.Text("☆マニュアル戦闘なら、「条件」を満たした最も高い「優先レベル」の行動の中から\n"
          "「優先値」の割合でランダムに行動が決定される",

@@ -70,7 +70,7 @@ cAnimPage<Pat>::cAnimPage() : cTablePage<Pat>(TableOf(static_cast<Pat*>(nullptr)
                           kPreviewSpin);
   F.Button(kChoose, "一覧").Row();
   F.Picture(kPicture, "プレビュー", Kind().nCell, Kind().nCell).Span(3).Row();
-  m_Frames.Declare(F, "アニメ", &E.m_vecAnim, 99, [](const Frame& f) { return AnimFrameText(f); }, kListSecondFree, 12);
+  m_Frames.Declare(F, "アニメ", &E.m_vecAnim, 1, 99, [](const Frame& f) { return AnimFrameText(f); }, kListSecondFree, 12);
   F.EndColumns();
 }
 

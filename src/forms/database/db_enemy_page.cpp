@@ -19,7 +19,7 @@ DLG_DBENEMY::DLG_DBENEMY() : cCharaPage(g_vecEnemy, "敵キャラ") {
 
   F.Column();
   m_Chara.DeclareStatus(F, E);
-  m_AI.Declare(F, "戦闘AI", &E.m_vecBattleAI, 99, [](const cBattleAI& ai) { return SummaryBattleAI(ai); },
+  m_AI.Declare(F, "戦闘AI", &E.m_vecBattleAI, 0, 99, [](const cBattleAI& ai) { return SummaryBattleAI(ai); },
                kListSecondFree, 6);
   F.EndColumns();
 

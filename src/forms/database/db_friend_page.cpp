@@ -17,7 +17,7 @@ DLG_DBFRIEND::DLG_DBFRIEND() : cCharaPage(g_vecFriend, "味方キャラ") {
 
   F.Column();
   m_Chara.DeclareStatus(F, E);
-  m_Learn.Declare(F, "習得スキル", &E.m_vecLearnSkill, 999, LearnSkillRowText, kListSecondFree, 8);
+  m_Learn.Declare(F, "習得スキル", &E.m_vecLearnSkill, 0, 999, LearnSkillRowText, kListSecondFree, 8);
   F.EndColumns();
 }
 

@@ -26,14 +26,15 @@ class cSubFormList {
 
   explicit cSubFormList(cSubFormIds ids) : m_Ids(ids) {}
 
-  // The list over `rows` (0..maxRows, a blank row at the end, each row `rowText` of its
-  // element), labelled above, and its three buttons below.
+  // The list over `rows` (minRows..maxRows, a blank row at the end, each row `rowText`
+  // of its element), labelled above, and its three buttons below.
   template <class RowText>
-  void Declare(cFormTable& F, const char* label, VECTOR_CLASS<T>* rows, int maxRows, RowText rowText, eListIdSet set,
-               int shownRows) {
+  void Declare(cFormTable& F, const char* label, VECTOR_CLASS<T>* rows, int minRows, int maxRows, RowText rowText,
+               eListIdSet set, int shownRows) {
     cListInit<T> init;
     init.bMulti = 1;
     init.pWork = rows;
+    init.nMinRows = minRows;
     init.nMaxRows = maxRows;
     init.bBlankRow = 1;
     init.pfnRowText = [rowText](std::string& out, int, const T& r) { out = rowText(r); };
