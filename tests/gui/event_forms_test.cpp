@@ -182,6 +182,12 @@ TEST_F(EventFormTest, ThePageRulesReadTheScreenAndADisabledFieldKeepsItsValue) {
   EXPECT_EQ(event.m_vecPage[0].m_bEnemyGroupCond, 1);
 }
 
+TEST_F(EventFormTest, OkOnATemplateOfThePaletteMakesAStepOfTheStageAsAPlacedEventDoes) {
+  cEvent templ;
+  Open(templ, eEventTarget::kTemplate)->SendCommand(kIdOk, kNotifyClicked);
+  EXPECT_TRUE(g_EditState.m_History.CanUndo());
+}
+
 TEST_F(EventFormTest, TheStartEventOffersOnlyItsKindsAndOkSavesItsFile) {
   g_StartEvent = cEvent();
   auto form = Open(g_StartEvent, eEventTarget::kStart);

@@ -31,7 +31,7 @@ constexpr int kCondMax = 999999;
 }  // namespace
 
 DLG_EVENT_SET::DLG_EVENT_SET(cEvent& target, eEventTarget kind, QWidget* parent)
-    : DLG_CLASS(parent, "イベント"), m_Target(target), m_eKind(kind), m_bStartEvent(kind == eEventTarget::kStart) {
+    : DLG_CLASS(parent, "イベント"), m_Target(target), m_bStartEvent(kind == eEventTarget::kStart) {
   m_Event = target;
   BuildVarLabelsWithNone(m_vecVarLabels);
   m_vecGroupLabels = NumberedRows(g_Stage.m_vecGroupPos, 1, 3);
@@ -176,7 +176,7 @@ bool DLG_EVENT_SET::OnOk() {
     return true;
   }
   // The undo step holds the stage as it stood before the event took the edits.
-  if (m_eKind == eEventTarget::kStage) PushUndo();
+  PushUndo();
   m_Target = m_Event;
   return true;
 }

@@ -16,10 +16,10 @@
 #include "toolkit/live_instance.h"
 
 
-// What the form edits: an event of the stage (OK makes the undo step), a template of
-// the event palette (no step: the palette is not the stage), or the project's start
-// event (OK saves its file; its page controls stay off and only the kinds it allows
-// can be chosen).
+// What the form edits: an event of the stage or a template of the event palette (OK
+// makes an undo step of the stage either way, which also ends what Redo could bring
+// back), or the project's start event (OK saves its file and makes no step; its page
+// controls stay off and only the kinds it allows can be chosen).
 enum class eEventTarget { kStage, kTemplate, kStart };
 
 class DLG_EVENT_SET : public DLG_CLASS, public cLiveInstance<DLG_EVENT_SET> {
@@ -97,7 +97,6 @@ class DLG_EVENT_SET : public DLG_CLASS, public cLiveInstance<DLG_EVENT_SET> {
   QMenu* OverwriteMenu() const { return m_pOverwriteMenu; }
 
   cEvent& m_Target;
-  const eEventTarget m_eKind;
   const bool m_bStartEvent;
   cEvent m_Event;        // the working copy; its pages are the page list's rows
   cEventPage m_PageEdit;  // the selected page, bound to the page controls
