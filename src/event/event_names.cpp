@@ -54,13 +54,6 @@ void BuildNumberedLabels(VECTOR_CLASS<std::string>& out, eNamedTable table, int 
   for (int row = first; row < RowCount(table); ++row) out.push_back(NumberedLabel(row, RowName(table, row)));
 }
 
-void BuildSkillLabels(VECTOR_CLASS<std::string>& out, int list) {
-  out.clear();
-  if (list < 0 || list >= g_vecSkillList.Count()) return;
-  const auto& skills = g_vecSkillList[static_cast<std::size_t>(list)].m_vecSkill;
-  for (int row = 1; row < skills.Count(); ++row) out.push_back(NumberedLabel(row, NameIn(skills, row)));
-}
-
 void BuildVarLabels(VECTOR_CLASS<std::string>& out) {
   out.clear();
   for (int n = 1; n < kCommonVarRows; ++n) out.push_back(NumberedLabel(n, RowName(eNamedTable::CommonVar, n)));

@@ -22,8 +22,6 @@ std::string NumberedLabel(int number, const std::string& name);
 
 // The rows of `table` from `first` on as numbered labels, after `head` when it is given.
 void BuildNumberedLabels(VECTOR_CLASS<std::string>& out, eNamedTable table, int first, const char* headUtf8 = nullptr);
-// The skills of list `list` from row 1 on.
-void BuildSkillLabels(VECTOR_CLASS<std::string>& out, int list);
 
 // 999 rows for the variables 1 to 999: row r stands for variable r + 1.
 void BuildVarLabels(VECTOR_CLASS<std::string>& out);

@@ -232,7 +232,9 @@ TEST_F(EventActFormTest, TheFormFollowsWhatTheScreenShowsAndTheSkillFollowsItsLi
   DuringModal([](DLG_CLASS& form) {
     auto* skill = static_cast<QComboBox*>(form.GetDlgItem(F::SlotId(1)));
     Choose(form, F::SlotId(0), 1);
-    EXPECT_EQ(skill->itemText(0), QStringLiteral("List1-1"));
+    // Both boxes number their rows, as every table's rows are numbered in these forms.
+    EXPECT_EQ(static_cast<QComboBox*>(form.GetDlgItem(F::SlotId(0)))->itemText(1), QStringLiteral("001 List1"));
+    EXPECT_EQ(skill->itemText(0), QStringLiteral("001 List1-1"));
     EXPECT_EQ(skill->currentIndex(), 0);
     Click(form, kIdOk);
   });

@@ -1,6 +1,11 @@
 #include "forms/database/skill_pair.h"
 
+#include "event/event_names.h"
 #include "project/project_globals.h"
+
+std::string cSkillPair::Row(int number, const std::string& name) const {
+  return m_bNumbered ? NumberedLabel(number, name) : name;
+}
 
 cFormTable& cSkillPair::DeclareList(cFormTable& F, const char* label, int* list) {
   return F.Combo(m_nListId, label, list, &m_vecListNames);
@@ -13,7 +18,7 @@ cFormTable& cSkillPair::DeclareSkill(cFormTable& F, const char* label, int* skil
 
 void cSkillPair::FillLists(DLG_CLASS& form, int list) {
   m_vecListNames.clear();
-  for (const cSkillList& l : g_vecSkillList) m_vecListNames.push_back(l.m_strName);
+  for (int i = 0; i < g_vecSkillList.Count(); ++i) m_vecListNames.push_back(Row(i, g_vecSkillList[i].m_strName));
   FillSkills(form, list);
   // Before the window stands the boxes take their rows when they are bound.
   if (!form.m_hWnd) return;
@@ -26,7 +31,7 @@ void cSkillPair::FillSkills(DLG_CLASS& form, int list) {
   if (list >= 0 && list < g_vecSkillList.Count()) {
     const VECTOR_CLASS<cSkill>& skills = g_vecSkillList[list].m_vecSkill;
     for (int i = 1; i < skills.Count(); ++i) {
-      m_vecSkillNames.push_back(skills[i].m_strName);
+      m_vecSkillNames.push_back(Row(i, skills[i].m_strName));
       m_vecSkillValues.push_back(i);
     }
   }

@@ -3,12 +3,14 @@
 // that list, its rows from 1. A selection in the first box, once the form is ready,
 // gives the second the skills of the chosen list and puts it on their first row.
 // Names come from the applied tables; a form refills them when its page goes stale.
+// The event forms number the rows as they number every row of a table.
 
 #include "toolkit/dlg_class.h"
 
 class cSkillPair {
  public:
-  cSkillPair(unsigned listId, unsigned skillId) : m_nListId(listId), m_nSkillId(skillId) {}
+  cSkillPair(unsigned listId, unsigned skillId, bool numbered = false)
+      : m_nListId(listId), m_nSkillId(skillId), m_bNumbered(numbered) {}
 
   // The list box and the skill box, each declared where the form places it; the
   // caller adds its modifiers to the one just declared.
@@ -23,7 +25,10 @@ class cSkillPair {
   void OnCommand(DLG_CLASS& form, unsigned id, unsigned code);
 
  private:
+  std::string Row(int number, const std::string& name) const;
+
   unsigned m_nListId, m_nSkillId;
+  bool m_bNumbered;
   int* m_pSkill = nullptr;
   VECTOR_CLASS<std::string> m_vecListNames, m_vecSkillNames;
   VECTOR_CLASS<int> m_vecSkillValues;

@@ -110,7 +110,7 @@ void DLG_EACT_BASE::Declare(cFormTable& F, const cActCtrl& c) {
       unsigned skillId = id + 1;
       for (const cActCtrl& s : m_Kind.ctrls)
         if (s.type == eActCtrl::kSkill) skillId = SlotId(s.slot);
-      m_pSkill = std::make_unique<cSkillPair>(id, skillId);
+      m_pSkill = std::make_unique<cSkillPair>(id, skillId, true);
       m_pSkill->DeclareList(F, c.label, slot);
       break;
     }
