@@ -1,5 +1,6 @@
 #include "editor/dlg_worldevent_set.h"
 
+#include "event/event_names.h"
 #include "event/event_page_rules.h"
 #include "forms/common_var_names.h"
 #include "forms/database/db_media_pages.h"
@@ -64,7 +65,7 @@ DLG_WORLDEVENT_SET::DLG_WORLDEVENT_SET(cWorldEvent& target, QWidget* parent)
       .EnableIf(stage);
   F.Button(kIdBrowse, "参照").EnableIf(stage).Row();
   F.Check(kIdVariation, "バリエーション", &P.m_bVariation).EnableIf(stage);
-  F.Combo(kIdVarNo, "", &P.m_nVarNo, &m_vecVarRows).Named("変更するコモン変数").EnableIf(variation);
+  F.Combo(kIdVarNo, "", &P.m_nVarNo, &m_vecVarRows, nullptr, kFirstCommonVar).Named("変更するコモン変数").EnableIf(variation);
   F.Button(kIdVarRename, "_").Named("変更するコモン変数名の変更").EnableIf(variation).Row();
   F.EditVal(kIdVarValue, "＝", &P.m_nVarValue, -999999, 999999, 1, kIdVarValueSpin).EnableIf(variation).Row();
   F.Text("☆ステージ開始前にコモン変数を変更する。\n例えば、コモン変数「ルート」を変えてルートAとルートBを\n"
@@ -83,8 +84,7 @@ DLG_WORLDEVENT_SET::DLG_WORLDEVENT_SET(cWorldEvent& target, QWidget* parent)
 // Row 0 of the condition's variables is the absence of a condition.
 void DLG_WORLDEVENT_SET::RefillVariables() {
   m_vecVarRows = CommonVarLabels();
-  m_vecCondVarRows = m_vecVarRows;
-  m_vecCondVarRows[0] = CP932_TEXT("コモン変数条件なし");
+  BuildVarLabelsWithNone(m_vecCondVarRows);
 }
 
 void DLG_WORLDEVENT_SET::OnReady() {

@@ -1,7 +1,6 @@
 #include "forms/common_var_names.h"
 
-#include <cstdio>
-
+#include "event/event_names.h"
 #include "forms/input_forms.h"
 #include "platform/cp932.h"
 #include "platform/prompt.h"
@@ -10,12 +9,7 @@
 
 const VECTOR_CLASS<std::string>& CommonVarLabels() {
   static VECTOR_CLASS<std::string> labels;
-  labels.clear();
-  for (int i = 0; i < kCommonVarRows; ++i) {
-    char number[8];
-    std::snprintf(number, sizeof number, "%0.3d ", i);
-    labels.push_back(number + (i < g_vecGValInfo.Count() ? g_vecGValInfo[i].m_strName : std::string()));
-  }
+  BuildVarLabels(labels);
   return labels;
 }
 

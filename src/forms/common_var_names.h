@@ -1,6 +1,6 @@
 #pragma once
 // The names of the common variables as the forms offer them: one combo row per
-// variable, "%0.3d %s" with its number and name, and the "_" button beside such a
+// variable, its number in three digits and its name, and the "_" button beside such a
 // combo that renames the variable chosen. A rename is saved at once: the names live in
 // a file of their own, apart from whatever the form edits.
 
@@ -10,8 +10,10 @@
 
 class DLG_CLASS;
 
-// Rows 0 to 999, made again from the names as they stand.
+// The variables 1 to 999, made again from the names as they stand: row r is variable
+// r + 1, so a combo over them takes the first value 1.
 const VECTOR_CLASS<std::string>& CommonVarLabels();
+constexpr int kFirstCommonVar = 1;
 
 // Asks for a new name of variable `row` ("変数名の入力", 12 characters) and saves the
 // names. Row 0 names no variable and beeps. True when a name was given.

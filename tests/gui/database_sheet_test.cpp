@@ -145,7 +145,7 @@ TEST_F(DatabaseSheetTest, AHelpPageWrittenInItsFormShowsItsFirstLineAndAnInsertC
   EXPECT_EQ(help->m_Edit.m_vecText.Count(), pages + 1);
 }
 
-TEST_F(DatabaseSheetTest, RenamingACommonVariableIsSavedAtOnceAndRowZeroBeeps) {
+TEST_F(DatabaseSheetTest, RenamingACommonVariableIsSavedAtOnceAndTheRowsStartAtVariableOne) {
   auto* vars = ShowPage<DLG_DB_PTVAL>(6);
   ASSERT_NE(vars, nullptr);
   EXPECT_EQ(ProbeOpenForm(*vars), std::vector<std::string>{});
@@ -164,9 +164,9 @@ TEST_F(DatabaseSheetTest, RenamingACommonVariableIsSavedAtOnceAndRowZeroBeeps) {
   EXPECT_EQ(saved[variable].m_strName, CP932_TEXT("所持金")) << "saved without waiting for the apply";
 
   auto* combo = static_cast<QComboBox*>(vars->GetDlgItem(DLG_DB_PTVAL::kCommonVar));
-  combo->setCurrentIndex(0);
-  vars->SendCommand(DLG_DB_PTVAL::kRename, kNotifyClicked);
-  EXPECT_EQ(m_prompt.beeps, 1);
+  EXPECT_EQ(combo->count(), 999);
+  EXPECT_EQ(combo->currentIndex(), variable - 1);
+  EXPECT_TRUE(combo->itemText(variable - 1).endsWith(QStringLiteral("所持金")));
 }
 
 TEST_F(DatabaseSheetTest, AMusicRowFollowsItsFileNameAndAChosenFileIsStoredRelative) {

@@ -13,7 +13,7 @@ DLG_DB_PTVAL::DLG_DB_PTVAL() : cTablePage(g_Database.m_vecPtVal, "パーティ�
   F.Column();
   F.EditStr(kName, "名称", &E.m_strName, WideLine(12)).Span(2).Row();
   F.EditStr(kUnit, "単位", &E.m_strUnit, WideLine(1)).Row();
-  F.Combo(kCommonVar, "コモン変数", &E.m_nCommonVar, &CommonVarLabels());
+  F.Combo(kCommonVar, "コモン変数", &E.m_nCommonVar, &CommonVarLabels(), nullptr, kFirstCommonVar);
   F.Button(kRename, "_").Row();
   F.Skip().Text("☆パーティー変数の実体").Row();
   F.EditVal(kMin, "下限", &E.m_nMin, -999999, 999999).Row();
