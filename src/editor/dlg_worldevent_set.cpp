@@ -106,13 +106,6 @@ void DLG_WORLDEVENT_SET::OnFormCommand(unsigned id, unsigned) {
       m_Pages.Delete(-1, 0);
       UpdateAllExcept(m_Pages);
       break;
-    // A road or a wall has no stage, and so no number.
-    case kIdType:
-      if (Value(kIdType) != WORLDEVENT_STAGE) {
-        m_Page.m_nStageNo = 0;
-        if (CTRL_CLASS* number = GetCtrl(kIdStageNo)) number->Update();
-      }
-      break;
     case kIdBrowse: {
       std::string stored;
       if (!BrowseMediaFile(*this, kStageFile, stored)) break;
@@ -134,7 +127,16 @@ void DLG_WORLDEVENT_SET::OnFormCommand(unsigned id, unsigned) {
   }
 }
 
-void DLG_WORLDEVENT_SET::OnUpdateEnable() { ShowPreview(); }
+void DLG_WORLDEVENT_SET::OnUpdateEnable() {
+  // A road or a wall has no stage, and so no number, whether the type was just chosen or
+  // the page came so from a file.
+  if (Value(kIdType) != WORLDEVENT_STAGE && Value(kIdStageNo) != 0) {
+    m_Page.m_nStageNo = 0;
+    if (CTRL_CLASS* number = GetCtrl(kIdStageNo)) number->Update();
+    m_Pages.CommitRow();
+  }
+  ShowPreview();
+}
 
 // The icon as the map shows it: the left column while the page has a stage number.
 void DLG_WORLDEVENT_SET::ShowPreview() {

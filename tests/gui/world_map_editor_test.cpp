@@ -154,10 +154,12 @@ TEST_F(WorldFormsTest, ARoadHasNoStageNumberAndOkAlwaysMakesAStep) {
   EXPECT_FALSE(numberEnabled);
   EXPECT_EQ(std::make_tuple(event.m_vecPage[0].m_nType, event.m_vecPage[0].m_nStageNo),
             std::make_tuple(+WORLDEVENT_WALL, 0));
+  event.m_vecPage[0].m_nStageNo = 5;  // a wall with a number, as a file may hold it
   DuringModal([](DLG_CLASS& form) { Click(form, kIdOk); });
   RunWorldEventSet(event, nullptr);
+  EXPECT_EQ(event.m_vecPage[0].m_nStageNo, 0);
   EXPECT_EQ(std::make_tuple(g_WorldEditState.m_History.UndoCount(), g_EditState.m_bWorldModified), std::make_tuple(2, 1))
-      << "an unchanged OK makes its step too";
+      << "an OK without a change of the user makes its step too";
 }
 
 TEST_F(WorldFormsTest, SettingsOkResizesTheWorldMapAndCancelLeavesItsBytes) {
