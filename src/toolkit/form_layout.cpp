@@ -226,7 +226,7 @@ cFormLayout& cFormLayout::OkCancel(bool cancel) {
   auto* row = new QHBoxLayout(cell);
   row->setContentsMargins(0, 0, 0, 0);
   row->addStretch(1);
-  for (auto [id, text] : {std::pair<unsigned, const char*>{kIdOk, "OK"}, {kIdCancel, "キャンセル"}}) {
+  for (auto [id, text] : {std::pair<unsigned, const char*>{kIdOk, "OK"}, {kIdCancel, "ｷｬﾝｾﾙ"}}) {
     if (id == kIdCancel && !cancel) break;
     auto* b = MakeButton(id, text, cell);
     b->setAccessibleName(b->text());

