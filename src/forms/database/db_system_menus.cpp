@@ -67,11 +67,10 @@ DLG_DBSYSTEM_5::DLG_DBSYSTEM_5() : cSystemPage("システム5") {
 DLG_DBSYSTEM_6::DLG_DBSYSTEM_6() : cSystemPage("システム6") {
   cFormTable& F = Table();
   F.Column();
-  F.Group("ウィンドウ（初期値↓）");
-  F.EditVal<std::int16_t>(NewId(), "色", SYSTEM_FIELD(m_shWindowHue), 0, 359).Named("ウィンドウの色");
-  F.EditVal<std::int16_t>(NewId(), "明るさ", SYSTEM_FIELD(m_shWindowLight), -255, 255).Named("ウィンドウの明るさ");
-  F.EditVal<std::int16_t>(NewId(), "透明度", SYSTEM_FIELD(m_shWindowAlpha), -255, 255).Named("ウィンドウの透明度").Row();
-  F.EndGroup();
+  F.Text("初期値↓").Row();
+  F.EditVal<std::int16_t>(NewId(), "ウィンドウの色", SYSTEM_FIELD(m_shWindowHue), 0, 359).Row();
+  F.EditVal<std::int16_t>(NewId(), "ウィンドウの明るさ", SYSTEM_FIELD(m_shWindowLight), -255, 255).Row();
+  F.EditVal<std::int16_t>(NewId(), "ウィンドウの透明度", SYSTEM_FIELD(m_shWindowAlpha), -255, 255).Row();
   MenuGroup(Heading(kParty), SYSTEM_ROWS(m_vecPartyMenu), 10);
   MenuGroup(Heading(kRelease), SYSTEM_ROWS(m_vecReleaseMenu), 16);
   F.Column();
