@@ -14,6 +14,7 @@
 #include <QTabWidget>
 
 #include "forms/database/database_sheet.h"
+#include "forms/database/slot_forms.h"
 #include "forms/database/db_class_page.h"
 #include "forms/database/db_compati_page.h"
 #include "forms/database/db_help_page.h"
@@ -105,6 +106,17 @@ TEST_F(DatabaseSheetTest, TheTerrainPageClearsARowToItsDefaultsAndShowsItsChip) 
   graphic->selectAll();
   QTest::keyClicks(graphic, g_vecLand[2].m_nGraphic == 9 ? "10" : "9");
   EXPECT_NE(chip->m_Surface.m_vecBits, before);
+}
+
+TEST_F(DatabaseSheetTest, ASlotRowSetsACategoryItsListNoLongerHasToTheFirst) {
+  cOrgSlotList own;
+  cSlot& slot = own.m_vecSlot.emplace_back();
+  slot.m_bAnyCateg = 0;
+  slot.m_vecAcqCond.emplace_back().m_nCateg = g_vecSkillList[0].m_vecCateg.Count();
+  DLG_ORGSLOT form(own, 0);
+  ASSERT_TRUE(form.Create(0, true));
+  EXPECT_EQ(form.m_Work.m_vecSlot.back().m_vecAcqCond[0].m_nCateg, 0);
+  form.SendCommand(kIdCancel, kNotifyClicked);
 }
 
 TEST_F(DatabaseSheetTest, ARuleInsertedAndCancelledLeavesTheListAsItWas) {

@@ -120,8 +120,7 @@ DLG_DBSKILLLIST::DLG_DBSKILLLIST() : cTablePage(g_vecSkillList, "スキル", {0,
   F.EditStr(kName, "名称", &E.m_strName, WideLine(12)).Row();
   F.Combo(kSlotType, "スロットタイプ", &E.m_nSlotType, kSlotTypeLabels).LabelAbove().Span(2).Row();
   F.List(kSlots, "スロット", m_Slots, EntryList<cSlot>(&E.m_vecSlot, [this](std::string& out, int, const cSlot& s) {
-           cSlot shown = s;  // the summary repairs what it reads; the row keeps its own
-           out = SummarySlot(shown, m_Edit);
+           out = SummarySlot(const_cast<cSlot&>(s), m_Edit);  // repairs a stale category in the row's slot
          }),
          kListThirdFixed, 3)
       .LabelAbove()

@@ -63,9 +63,9 @@ void DLG_SLOT::OnFormCommand(unsigned id, unsigned code) {
 DLG_ORGSLOT::DLG_ORGSLOT(const cOrgSlotList& source, int list, QWidget* parent)
     : cRecordForm(parent, "スロット", source), m_nList(list) {
   cListInit<cSlot> rows = NumberedRows<cSlot>(&m_Work.m_vecSlot, 1, 99, {});
+  // The summary sets a category the list no longer has to 0 in the row's own slot.
   rows.pfnRowText = [this](std::string& out, int, const cSlot& slot) {
-    cSlot shown = slot;  // the summary repairs what it reads; the row keeps its own
-    out = SummarySlot(shown, ListOrEmpty(m_nList));
+    out = SummarySlot(const_cast<cSlot&>(slot), ListOrEmpty(m_nList));
   };
 
   cFormTable& F = Table();
