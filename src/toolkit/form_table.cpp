@@ -26,7 +26,7 @@ std::string AccessibleText(const std::string& label) {
       if (i < label.size() && label[i] != '&') out += label[i];
       continue;
     }
-    out += label[i];
+    if (label[i] != '\n') out += label[i];
   }
   while (!out.empty() && (out.back() == ' ' || out.back() == ':')) out.pop_back();
   return out;

@@ -200,5 +200,6 @@ class cFormTable {
   bool m_bNoMargins = false;
 };
 
-// The accessible name of a label: its text without the access key, "(&D)" or "&".
+// The accessible name of a label: its text without the access key, "(&D)" or "&", and
+// without the line breaks that only fit it to its place.
 std::string AccessibleText(const std::string& label);

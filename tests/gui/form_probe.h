@@ -26,6 +26,8 @@ inline std::vector<std::string> ProbeOpenForm(DLG_CLASS& form) {
     if (!input || w->focusPolicy() == Qt::NoFocus || qobject_cast<QComboBox*>(w->parentWidget())) continue;
     if (w->accessibleName().isEmpty())
       problems.push_back(std::string(w->metaObject()->className()) + " without an accessible name");
+    if (w->accessibleName().contains('\n'))
+      problems.push_back(w->accessibleName().toStdString() + ": a line break in an accessible name");
   }
   return problems;
 }
