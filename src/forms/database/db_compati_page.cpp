@@ -9,12 +9,13 @@ DLG_INFL::DLG_INFL(const cInfl& source, QWidget* parent) : cRecordForm(parent, "
     m_vecTypeNames.push_back(types[i].m_strName);
     m_vecTypeValues.push_back(i);
   }
+  // The form reads as a sentence: the type, "に対して", what, how and by how much.
   cFormTable& F = Table();
-  F.Combo(kTarget, "相性タイプ", &m_Work.m_nTarget, &m_vecTypeNames, &m_vecTypeValues);
+  F.Combo(kTarget, "", &m_Work.m_nTarget, &m_vecTypeNames, &m_vecTypeValues).Named("相性タイプ");
   F.Text("に対して").Row();
-  F.Combo(kWhat, "対象", &m_Work.m_nWhat, INFLWHAT);
-  F.Combo(kOp, "演算", &m_Work.m_nOp, INFLOP).Row();
-  F.EditVal(kValue, "値", &m_Work.m_nValue, -999999, 999999).Row();
+  F.Combo(kWhat, "", &m_Work.m_nWhat, INFLWHAT).Named("対象");
+  F.Combo(kOp, "", &m_Work.m_nOp, INFLOP).Named("演算").Row();
+  F.EditVal(kValue, "", &m_Work.m_nValue, -999999, 999999).Named("値").Row();
   F.OkCancel();
 }
 
