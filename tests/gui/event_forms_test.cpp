@@ -142,7 +142,9 @@ TEST_F(EventFormTest, CancelLeavesTheEventAndOkWritesItAfterTheUndoStep) {
     SelectRow(*form, DLG_EVENT_SET::kIdActList, 0);
     Click(*form, DLG_EVENT_SET::kIdActDelete);
     form->SendCommand(ok ? kIdOk : kIdCancel, kNotifyClicked);
-    if (!ok) EXPECT_EQ(SavedBytes(placed), before);
+    if (!ok) {
+      EXPECT_EQ(SavedBytes(placed), before);
+    }
   }
   ASSERT_EQ(placed.m_vecPage.Count(), 2);
   EXPECT_EQ(placed.m_vecPage[0].m_bTurnCondA, 1);

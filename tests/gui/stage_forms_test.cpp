@@ -60,7 +60,9 @@ TEST_F(StageFormsTest, ClicksOnTheGroupsPictureReachTheStageOnlyThroughBothOks) 
       Click(form, close);
     });
     RunPositionGroups(nullptr);
-    if (close == kIdCancel) EXPECT_EQ(SavedBytes(g_Stage), before);
+    if (close == kIdCancel) {
+      EXPECT_EQ(SavedBytes(g_Stage), before);
+    }
   }
   const cGroupPos& group = g_Stage.m_vecGroupPos[1];
   // The cell clicked twice went and came back: it is last.
@@ -104,7 +106,7 @@ TEST_F(StageFormsTest, DescriptionLinesComeFromTheirFormAndAFifthIsRefused) {
     // Four lines and the blank row: an insert there beeps and opens no form.
     EXPECT_EQ(List(form, DLG_STAGE::kIdLoseList)->count(), 5);
     List(form, DLG_STAGE::kIdLoseList)->setCurrentRow(4);
-    Click(form, DLG_STAGE::kIdLoseList + DLG_STAGE::kInsertOffset);
+    Click(form, unsigned{DLG_STAGE::kIdLoseList} + DLG_STAGE::kInsertOffset);
     EXPECT_EQ(m_prompt.beeps, 1);
 
     DuringModal([](DLG_CLASS& line) {
@@ -118,10 +120,10 @@ TEST_F(StageFormsTest, DescriptionLinesComeFromTheirFormAndAFifthIsRefused) {
       Type(line, DLG_ENDCOND::kIdX, "64");
       Click(line, kIdOk);
     });
-    Click(form, DLG_STAGE::kIdWinList + DLG_STAGE::kInsertOffset);
+    Click(form, unsigned{DLG_STAGE::kIdWinList} + DLG_STAGE::kInsertOffset);
     EXPECT_EQ(List(form, DLG_STAGE::kIdWinList)->item(0)->text(), QStringLiteral("1 Hold"));
     DuringModal([](DLG_CLASS& line) { Click(line, kIdCancel); });
-    Click(form, DLG_STAGE::kIdWinList + DLG_STAGE::kInsertOffset);
+    Click(form, unsigned{DLG_STAGE::kIdWinList} + DLG_STAGE::kInsertOffset);
     EXPECT_EQ(stage.m_aDesc[DLG_STAGE::kWin].work.Count(), 1) << "a declined line goes again";
     Click(form, kIdOk);
   });
