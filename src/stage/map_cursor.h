@@ -19,6 +19,9 @@ class cCursorStack {
   void Pop();
   // One frame of zeros.
   void Reset() { m_vecFrame.assign(1, cCursorFrame{}); }
+  // Brings every frame onto a map of `width` by `height` cells, so that a cell kept from
+  // before the map was made smaller is never one the map no longer has.
+  void KeepWithin(int width, int height);
   int Depth() const { return static_cast<int>(m_vecFrame.size()); }
 
  private:

@@ -131,9 +131,9 @@ bool RectPress() {
 
 void RectRelease() {
   cEditState& es = ES();
+  RectMove();  // the size from the start to the cursor, before the start becomes the corner
   es.m_nRectX = std::min(es.m_nRectX, CursorX());
   es.m_nRectY = std::min(es.m_nRectY, CursorY());
-  RectMove();
   WalkRect(es.m_nRectX, es.m_nRectY, es.m_nRectW, es.m_nRectH, g_Stage.m_nWidth, g_Stage.m_nHeight, es.m_nBrushW,
            es.m_nBrushH, cEditState::kBrushSide, [&](int x, int y, int i) {
              if (es.m_nPalette == PALETTE_CHIP) StampChip(x, y, i);
@@ -148,6 +148,7 @@ void RectRelease() {
 // running in circles.
 void Fill(int startX, int startY) {
   cEditState& es = ES();
+  if (startX < 0 || startY < 0 || startX >= g_Stage.m_nWidth || startY >= g_Stage.m_nHeight) return;
   const std::size_t cells = g_Stage.m_vecMap.size();
   std::unique_ptr<unsigned char[]> marks(new (std::nothrow) unsigned char[cells]());
   if (marks == nullptr) {
@@ -305,7 +306,12 @@ void SetMapEditHost(cMapEditHost* host) { g_pHost = host != nullptr ? host : &g_
 
 void MoveMapCursor(MAP_VIEW& view, int px, int py) {
   const cViewCell cell = ViewCellAt(view, px, py);
-  if (cell.inside && (cell.x >= g_Stage.m_nWidth || cell.y >= g_Stage.m_nHeight)) return;
+  g_Cursor.KeepWithin(g_Stage.m_nWidth, g_Stage.m_nHeight);
+  if (cell.inside && (cell.x >= g_Stage.m_nWidth || cell.y >= g_Stage.m_nHeight)) {
+    view.m_nCursorX = g_Cursor.Top().nX;  // the cell kept, on the map as it stands now
+    view.m_nCursorY = g_Cursor.Top().nY;
+    return;
+  }
   const int x = std::min(cell.x, g_Stage.m_nWidth - 1), y = std::min(cell.y, g_Stage.m_nHeight - 1);
   g_Cursor.Top() = {x, y, cell.px, cell.py};
   view.m_nCursorX = x;

@@ -11,6 +11,7 @@
 #include "stage/edit_state.h"
 #include "stage/map_cursor.h"
 #include "stage/map_edit.h"
+#include "stage/stage_form_results.h"
 #include "support/test_env.h"
 
 namespace {
@@ -180,6 +181,28 @@ TEST_F(MapEditTest, TheFillLaysTheBrushAroundTheClickedCellAndStopsAtTheArea) {
   ChipBrush(1, 1, {3});
   Stroke(0, 0);
   EXPECT_EQ(std::count(g_Stage.m_vecMap.begin(), g_Stage.m_vecMap.end(), 3), 64 * 64);
+}
+
+TEST_F(MapEditTest, ARectangleDraggedUpAndLeftCoversTheWholeDrag) {
+  Tool(TOOL_RECT);
+  ChipBrush(1, 1, {2});
+  Press(4, 3);
+  Drag(1, 1);
+  Release(1, 1);
+  EXPECT_EQ(Rows(), (std::vector<std::string>{"000000", "022220", "022220", "022220"}));
+}
+
+TEST_F(MapEditTest, ACellKeptFromBeforeTheMapShrankIsBroughtOntoIt) {
+  Tool(TOOL_FILL);
+  ChipBrush(1, 1, {3});
+  Drag(5, 3);  // the cursor on the last cell
+  g_Stage.Resize(2, 2);
+  StageSettingsConfirmed();
+  EXPECT_EQ(std::make_pair(g_Cursor.Top().nX, g_Cursor.Top().nY), std::make_pair(1, 1));
+  // A press beyond the map keeps the cell, and the fill stays on the map.
+  g_Cursor.Top() = {5, 3, 0, 0};
+  Press(5, 3);
+  EXPECT_EQ(Rows(), (std::vector<std::string>{"33", "33"}));
 }
 
 TEST_F(MapEditTest, UndoKeepsThreeStepsAndRedoIsEmptiedOnlyByANewStep) {
