@@ -281,17 +281,24 @@ int AskSave() {
   if (es.m_bStageOpen && es.m_bStageModified) {
     switch (Ask("ステージが変更された可能性があります。\n保存しますか？", "保存確認", MB_YESNOCANCEL)) {
       case IDCANCEL: return 0;
-      case IDYES:
-        if (SaveStage(true)) es.m_bStageModified = 0;
+      case IDYES: {
+        const bool saved = SaveStage(true);
+        if (saved) es.m_bStageModified = 0;
         Host().UpdateTitle();
+        // A save refused or whose file was not chosen keeps the program: leaving would
+        // lose the stage the author wanted kept.
+        if (!saved) return 0;
         break;
+      }
       default: break;
     }
   }
   if (es.m_bEventPltModified) {
     switch (Ask("イベントパレットが変更された可能性があります。\n保存しますか？", "保存確認", MB_YESNOCANCEL)) {
       case IDCANCEL: return 0;
-      case IDYES: SaveEventPalette(); break;
+      case IDYES:
+        if (!SaveEventPalette()) return 0;
+        break;
       default: break;
     }
   }
@@ -301,11 +308,16 @@ int AskSave() {
 void RebuildMain() {
   cEditState& es = ES();
   Host().DestroyMain();
+  // The stage's state starts anew; the palette and the world map are not the stage, and
+  // their edits must still be asked about when the program ends.
   const int open = es.m_bStageOpen;
   const std::string path = es.m_strStagePath;
+  const int paletteModified = es.m_bEventPltModified, worldModified = es.m_bWorldModified;
   es.Reset();
   es.m_bStageOpen = open;
   es.m_strStagePath = path;
+  es.m_bEventPltModified = paletteModified;
+  es.m_bWorldModified = worldModified;
   g_Cursor.Reset();
   Host().BuildMain();
   if (es.m_bStageOpen) ChangePalette(es.m_nPalette);

@@ -95,7 +95,7 @@ int SaveStage(bool bOverwrite);
 int SaveEventPalette();
 
 // The questions on leaving the main window: the stage, then the event palette, each
-// saved on yes. 0 when the user cancelled and the window stays.
+// saved on yes. 0 when the user cancelled, or a yes did not save, and the window stays.
 int AskSave();
 
 // The main window built again around the edit state, with its palette.

@@ -37,8 +37,7 @@ bool SaveForTest() {
     ErrorBox(CP932_TEXT("ステージファイルのパスが無効です！\n1度ステージを保存する必要があります！"));
     return false;
   }
-  SaveEventPalette();
-  es.m_bEventPltModified = 0;
+  SaveEventPalette();  // clears its flag only once written, so that leaving still asks
   es.m_bStageModified = 0;
   ClearHistory();
   MapEditHost().UpdateCommands();

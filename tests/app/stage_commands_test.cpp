@@ -166,8 +166,11 @@ TEST_F(StageCommandsTest, OpenAsksNothingDropsTheChangesAndAFailedOpenChangesNot
                             g_EditState.m_History.CanUndo()),
             std::make_tuple(7, other, 0, false));
 
+  // The palette is not the stage: its edits are still asked about after the stage goes.
+  g_EditState.m_bEventPltModified = 1;
   RunStageCommand(IDM_CLOSE);
-  EXPECT_EQ(std::make_tuple(g_EditState.m_bStageOpen, g_EditState.m_strStagePath), std::make_tuple(0, std::string()));
+  EXPECT_EQ(std::make_tuple(g_EditState.m_bStageOpen, g_EditState.m_strStagePath, g_EditState.m_bEventPltModified),
+            std::make_tuple(0, std::string(), 1));
 }
 
 TEST_F(StageCommandsTest, LeavingAsksForTheStageThenThePaletteAndCancelKeepsEverything) {
@@ -188,6 +191,14 @@ TEST_F(StageCommandsTest, LeavingAsksForTheStageThenThePaletteAndCancelKeepsEver
   m_prompt.answers = {IDYES, IDYES};
   EXPECT_EQ(AskSave(), 1);
   EXPECT_EQ(std::make_tuple(g_EditState.m_bStageModified, g_EditState.m_bEventPltModified), std::make_tuple(0, 0));
+
+  // Yes whose save does not happen keeps the window: here a new stage whose file is not chosen.
+  g_EditState.m_strStagePath.clear();
+  g_EditState.m_bStageModified = 1;
+  m_prompt.files = {{}};
+  m_prompt.answers = {IDYES};
+  EXPECT_EQ(AskSave(), 0);
+  EXPECT_EQ(g_EditState.m_bStageModified, 1);
 
   // The palette's question comes with no stage open too.
   g_EditState.m_bStageOpen = 0;
