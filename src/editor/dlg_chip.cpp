@@ -2,12 +2,14 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QApplication>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScreen>
 #include <QScrollBar>
+#include <QTimer>
 #include <QToolBar>
 #include <algorithm>
 
@@ -130,8 +132,14 @@ void DLG_CHIP::Refresh() {
 }
 
 void DLG_CHIP::keyPressEvent(QKeyEvent* event) {
-  if ((event->key() == Qt::Key_Space || event->key() == Qt::Key_F5) && m_Keys) {
+  if (event->key() == Qt::Key_F5 && m_Keys) {
     m_Keys(event->key());
+    return;
+  }
+  if (event->key() == Qt::Key_Space && m_Keys) {
+    // A change of palette takes this window away: it runs once the key has been handled.
+    QObject* owner = parentWidget() != nullptr ? static_cast<QObject*>(parentWidget()) : qApp;
+    QTimer::singleShot(0, owner, [keys = m_Keys] { keys(Qt::Key_Space); });
     return;
   }
   QWidget::keyPressEvent(event);

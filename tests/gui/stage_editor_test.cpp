@@ -78,6 +78,13 @@ TEST_F(StageEditorTest, AChipChosenInThePaletteIsDrawnByAPenStrokeAndOneUndoRest
   EXPECT_EQ(g_EditState.m_nTool, TOOL_FILL);
 }
 
+TEST_F(StageEditorTest, SpaceInTheChipPaletteChangesThePaletteOnceTheKeyIsHandled) {
+  QTest::keyClick(m_view->Dlg()->Chip(), Qt::Key_Space);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(g_EditState.m_nPalette, PALETTE_ENEMY);
+  EXPECT_EQ(m_view->Dlg()->Chip(), nullptr);
+}
+
 TEST_F(StageEditorTest, CommandsFollowTheOpenStageAndSpaceChangesThePalette) {
   EXPECT_TRUE(Menu(IDM_SAVE)->isEnabled());
   EXPECT_TRUE(Menu(IDM_PALETTE_CHIP)->isChecked());
