@@ -15,6 +15,7 @@
 #include "project/project_tree.h"
 #include "sound/sound_start.h"
 #include "stage/edit_state.h"
+#include "stage/map_brush.h"
 #include "stage/stage_open.h"
 
 namespace fs = std::filesystem;
@@ -90,7 +91,11 @@ bool Sound(cStartUpRun& run) {
 }
 
 bool MainWindow(cStartUpRun& run) {
-  if (g_EditState.m_bStageOpen) g_EditState.m_nPalette = std::clamp(g_EditConfig.m_nPalette, 0, cEditState::kPaletteCount - 1);
+  // The run's edit state starts from its defaults; the stored palette then comes in as a
+  // change of palette does, so that the chip palette keeps its own tool and brush.
+  g_EditState.Reset();
+  if (g_EditState.m_bStageOpen)
+    SwapPaletteState(g_EditState, std::clamp(g_EditConfig.m_nPalette, 0, cEditState::kPaletteCount - 1));
   if (run.shell.CreateMainWindow()) return true;
   ReportOutOfMemory();
   return false;

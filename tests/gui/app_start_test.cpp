@@ -55,6 +55,8 @@ TEST_F(AppStartTest, FreshProjectRunsEveryStepInOrderAndAsksTheBattleModeOnce) {
   cRecordingShell second;
   ASSERT_TRUE(StartUp(second));
   EXPECT_EQ(std::make_tuple(m_prompt.shown.size(), second.dialogs, g_EditState.m_nPalette), std::make_tuple(1u, 0, 2));
+  // The chip palette keeps a run's first brush for when it is chosen again.
+  EXPECT_EQ(g_EditState.m_aPaletteState[PALETTE_CHIP][PALSTATE_BRUSH_W], 1);
   ShutDown();
 }
 
