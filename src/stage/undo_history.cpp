@@ -18,7 +18,9 @@ void SetAvailableMemoryProbe(AvailableMemoryProbe probe) { Probe() = std::move(p
 std::uint64_t AvailableMemory() { return Probe() ? Probe()() : ReadAvailableMemory(); }
 
 bool cUndoHistory::PushSnapshot(std::deque<Snapshot>& list, const cSnapshotSource& source, int depth) {
-  if (AvailableMemory() <= source.EstimateBytes()) {
+  // A figure the machine did not give must not turn undo off for the whole run.
+  const std::uint64_t available = AvailableMemory();
+  if (available != 0 && available <= source.EstimateBytes()) {
     Clear();
     return false;
   }

@@ -23,7 +23,8 @@ class cSnapshotSource {
   virtual void Restore(const std::vector<unsigned char>& snapshot) = 0;
 };
 
-// The machine's available physical memory in bytes. Tests put their own reading in.
+// The machine's available physical memory in bytes; 0 when the machine does not say,
+// which the history takes as room enough. Tests put their own reading in.
 using AvailableMemoryProbe = std::function<std::uint64_t()>;
 void SetAvailableMemoryProbe(AvailableMemoryProbe probe);  // null: the machine's own
 std::uint64_t AvailableMemory();

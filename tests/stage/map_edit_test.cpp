@@ -227,6 +227,10 @@ TEST_F(MapEditTest, UndoKeepsThreeStepsAndRedoIsEmptiedOnlyByANewStep) {
   Stroke(5, 2);
   EXPECT_EQ(std::make_tuple(g_EditState.m_History.CanUndo(), g_EditState.m_History.CanRedo(), Cell(5, 2)),
             std::make_tuple(false, false, 1));
+  // A machine that does not say how much it has keeps the history.
+  SetAvailableMemoryProbe([] { return std::uint64_t{0}; });
+  Stroke(4, 2);
+  EXPECT_TRUE(g_EditState.m_History.CanUndo());
 }
 
 TEST_F(MapEditTest, EnemiesMoveWithThePenAndADisplacedOneLeavesTheMapKeepingItsRow) {
