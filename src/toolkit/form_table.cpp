@@ -2,6 +2,7 @@
 
 #include <QFontMetrics>
 #include <QLabel>
+#include <QLineEdit>
 #include <QStyle>
 #include <algorithm>
 #include <set>
@@ -229,9 +230,11 @@ void cFormTable::PutControl(cFormLayout& L, const cEntry& e, const std::string& 
     case eFormWidget::kSlider:
       L.Slider(e.id, e.span);
       // The mirror of a slider is its own number box in the next cell, named as the slider.
+      // It shows the position and takes no typing: the slider alone writes the field.
       if (e.partnerId != 0) {
         L.Last()->setAccessibleName(QString::fromStdString(AccessibleText(!e.text.empty() ? e.text : fallbackName)));
         L.EditVal(e.partnerId);
+        if (auto* mirror = qobject_cast<QLineEdit*>(L.Last())) mirror->setReadOnly(true);
       }
       break;
     case eFormWidget::kLabel: L.Label(e.id, text, e.span); break;

@@ -54,6 +54,17 @@ std::vector<std::string> Rows(QListWidget* w) {
   return rows;
 }
 
+TEST(SliderControl, ItsNumberBoxShowsThePositionAndTakesNoTyping) {
+  DLG_ROWS form(VECTOR_CLASS<int>{1});
+  ASSERT_TRUE(form.Create(0, false));
+  auto* mirror = static_cast<QLineEdit*>(form.GetDlgItem(DLG_ROWS::kMirror));
+  EXPECT_EQ(mirror->text(), "12");
+  QTest::keyClicks(mirror, "3");
+  form.ApplyAll();
+  EXPECT_EQ(std::make_pair(mirror->text(), form.m_sLevel), std::make_pair(QString("12"), short{12}));
+  form.End(0);
+}
+
 TEST(ListControl, RowsSelectionEditRecordAndCommitAgree) {
   DLG_ROWS form(VECTOR_CLASS<int>{4, 5, 6});
   ASSERT_TRUE(form.Create(0, false));
