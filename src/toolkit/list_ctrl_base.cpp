@@ -413,8 +413,11 @@ int cListCtrlBase::OpOf(unsigned id) const {
 
 std::vector<unsigned> cListCtrlBase::OnKey(int key, bool bCtrl) const {
   std::vector<unsigned> ids;
+  // The list's own operations wait for its focus in HandleKeyCommand; one the form runs
+  // itself has no such test behind it, so its key counts only while the list has the focus.
   auto add = [&](int op) {
-    if (m_aKeyCmd[op] != 0) ids.push_back(m_aKeyCmd[op]);
+    const bool leftToForm = (m_nFormOps >> op) & 1;
+    if (m_aKeyCmd[op] != 0 && (!leftToForm || m_Box.focus)) ids.push_back(m_aKeyCmd[op]);
   };
   if (key == 0x2E) {  // Delete, with or without Control
     add(kListClear);

@@ -200,6 +200,9 @@ TEST_F(ListCtrlTest, AnOperationLeftToTheFormKeepsItsIdsButTheListDoesNotRunIt) 
   m_list.SetIdSet(kListIdSets[kListFirstFree]);
   m_list.LeaveToForm(kListDelete);
   EXPECT_EQ(m_list.OnKey(0x2E, false), std::vector<unsigned>{40034});
+  m_list.Box().focus = false;  // the key was meant for another control of the form
+  EXPECT_EQ(m_list.OnKey(0x2E, false), std::vector<unsigned>{});
+  m_list.Box().focus = true;
   EXPECT_EQ(m_list.OpOf(40034), kListDelete);
   EXPECT_EQ(m_list.OpOf(40029), kListDelete);
   EXPECT_EQ(m_list.HandleKeyCommand(40034), 0);
