@@ -78,6 +78,23 @@ TEST_F(StageEditorTest, AChipChosenInThePaletteIsDrawnByAPenStrokeAndOneUndoRest
   EXPECT_EQ(g_EditState.m_nTool, TOOL_FILL);
 }
 
+// The palettes are tool windows of the main window, which keeps its shortcuts for them.
+TEST_F(StageEditorTest, TheMainWindowsShortcutsWorkFromAnActivePalette) {
+  PushUndo();
+  QWidget* chip = m_view->Dlg()->Chip();
+  chip->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(chip));
+  QTest::keyClick(chip, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_TRUE(g_EditState.m_History.CanRedo());
+
+  ChangePalette(PALETTE_ENEMY);
+  QWidget* enemies = m_view->Dlg()->Enemy()->m_hWnd;
+  enemies->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(enemies));
+  QTest::keyClick(enemies, Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_FALSE(g_EditState.m_History.CanRedo());
+}
+
 TEST_F(StageEditorTest, SpaceInTheChipPaletteChangesThePaletteOnceTheKeyIsHandled) {
   QTest::keyClick(m_view->Dlg()->Chip(), Qt::Key_Space);
   QCoreApplication::processEvents();
