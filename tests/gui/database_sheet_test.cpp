@@ -14,13 +14,13 @@
 #include <QTabWidget>
 
 #include "forms/database/database_sheet.h"
-#include "forms/database/slot_forms.h"
 #include "forms/database/db_class_page.h"
 #include "forms/database/db_compati_page.h"
 #include "forms/database/db_help_page.h"
 #include "forms/database/db_land_page.h"
 #include "forms/database/db_media_pages.h"
 #include "forms/database/db_small_pages.h"
+#include "forms/database/slot_forms.h"
 #include "kernel/record_vector_file.h"
 #include "gui/app_test_support.h"
 #include "gui/database_sheet_fixture.h"
