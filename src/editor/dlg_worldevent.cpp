@@ -11,7 +11,7 @@
 
 DLG_WORLDEVENT::DLG_WORLDEVENT(QWidget* owner, std::function<void(int)> keys)
     : cPaletteWindow(owner, "イベントパレット", g_EditConfig.m_PosWorldEvent, std::move(keys)) {
-  for (int op : {kListCut, kListCopy, kListInsert}) m_List.LeaveToForm(op);
+  for (int op : {kListCut, kListCopy, kListPaste, kListInsert, kListDelete}) m_List.LeaveToForm(op);
   cListInit<cWorldEvent> init;
   init.pSource = init.pWork = &g_WorldMap.m_vecEventPlt;
   init.nMinRows = 1;
@@ -37,6 +37,7 @@ void DLG_WORLDEVENT::OnReady() {
   m_hWnd->setFixedSize(m_hWnd->sizeHint());
   const int row = g_WorldEditState.m_nListSel;
   m_List.SelectOnly(m_List.IsReal(row) ? row : 0, 0);
+  SelectWorldTemplate(m_List.GetSel());  // the row shown selected is what the pen puts
   RedrawLists();
 }
 
@@ -62,6 +63,13 @@ void DLG_WORLDEVENT::OnFormCommand(unsigned id, unsigned code) {
       ChooseWorldTemplate(m_List.GetSel());
       break;
     case kListCopy: Copy(false); break;
+    // The pen follows the list's new selection, as after the buttons.
+    case kListPaste:
+      if (m_List.PasteClip()) ChooseWorldTemplate(m_List.GetSel());
+      break;
+    case kListDelete:
+      if (m_List.Delete(-1, 0)) ChooseWorldTemplate(m_List.GetSel());
+      break;
     default: break;
   }
 }

@@ -261,13 +261,17 @@ void ChooseWorldChip(int n) {
   es.m_nBrushW = es.m_nBrushH = 1;
 }
 
-void ChooseWorldTemplate(int row) {
+void SelectWorldTemplate(int row) {
   cWorldEditState& es = ES();
   es.m_nListSel = row;
   const bool real = row >= 0 && row < g_WorldMap.m_vecEventPlt.Count();
   es.m_nSelected = real ? row : -1;
   if (real) es.m_PutEvent = g_WorldMap.m_vecEventPlt[row];
   es.m_nBrushW = es.m_nBrushH = real ? 1 : 0;
+}
+
+void ChooseWorldTemplate(int row) {
+  SelectWorldTemplate(row);
   MarkModified();
 }
 

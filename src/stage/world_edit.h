@@ -73,8 +73,10 @@ void NextWorldPalette();
 
 // A click on the chip palette: chip `n` becomes the selection and a brush of one.
 void ChooseWorldChip(int n);
-// The event palette's list moved to `row`: a real template becomes what the pen puts,
-// with a brush of one; anything else leaves the pen nothing. The map counts as modified.
+// The event palette's list stands on `row`: a real template becomes what the pen puts,
+// with a brush of one; anything else leaves the pen nothing.
+void SelectWorldTemplate(int row);
+// The same as the user's choice of a row, after which the map counts as modified.
 void ChooseWorldTemplate(int row);
 
 // "全てのマップチップをクリア" (chips true) or "全てのイベントをクリア": asks, and on

@@ -71,10 +71,7 @@ TEST_F(WorldMapEditorTest, OpenDrawPlaceAnEventSaveCloseAndReadTheFileBack) {
   world->Commands().ToolAction(IDW_TOOL_EVENT)->trigger();
   ASSERT_NE(world->Event(), nullptr);
   EXPECT_EQ(world->Chip(), nullptr);
-  auto* list = qobject_cast<QListWidget*>(world->Event()->GetDlgItem(DLG_WORLDEVENT::kIdList));
-  ASSERT_NE(list, nullptr);
-  list->setCurrentRow(0);
-  world->Event()->SendCommand(DLG_WORLDEVENT::kIdList, kNotifySelChange);
+  EXPECT_EQ(g_WorldEditState.m_nSelected, 0) << "the row the palette opens on is the pen's";
   world->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(world));
   int shownNumber = -1;
@@ -86,6 +83,13 @@ TEST_F(WorldMapEditorTest, OpenDrawPlaceAnEventSaveCloseAndReadTheFileBack) {
   QTest::mouseRelease(map, Qt::LeftButton, {}, At(3, 2));
   EXPECT_EQ(shownNumber, 2);
   ASSERT_TRUE(g_WorldMap.HasEventAt(3, 2));
+
+  // The list's own delete key takes the pen on to the row selected after it.
+  const int templates = g_WorldMap.m_vecEventPlt.Count();
+  ASSERT_GT(templates, 1);
+  world->Event()->SendCommand(kListIdSets[kListFirstFree].aKey[kListDelete], 0);
+  EXPECT_EQ(g_WorldMap.m_vecEventPlt.Count(), templates - 1);
+  EXPECT_EQ(g_WorldEditState.m_PutEvent.m_strName, g_WorldMap.m_vecEventPlt[0].m_strName);
 
   // Saved with Ctrl+S's command, then closed without a question.
   world->Commands().MenuAction(IDW_SAVE)->trigger();
