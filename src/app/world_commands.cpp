@@ -112,9 +112,11 @@ bool RunWorldCommand(int id) {
   return true;
 }
 
-void SaveWorldMap() {
-  g_WorldMap.SaveFile(kWorldMapPath);
+bool SaveWorldMap() {
+  // A map that did not reach its file stays modified, so that leaving still asks.
+  if (!g_WorldMap.SaveFile(kWorldMapPath)) return false;
   g_EditState.m_bWorldModified = 0;
+  return true;
 }
 
 bool AskCloseWorldMap() {
@@ -125,7 +127,7 @@ bool AskCloseWorldMap() {
   Host().EnableAllWindows(true);
   switch (answer) {
     case IDCANCEL: return false;
-    case IDYES: SaveWorldMap(); return true;
+    case IDYES: return SaveWorldMap();  // a failed save keeps the window and the edits
     default: g_WorldMap.LoadFile(kWorldMapPath); return true;
   }
 }

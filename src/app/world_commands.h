@@ -26,9 +26,9 @@ const cCommandSet& WorldCommandSet();
 // Runs the command with `id` (or that shortcut id) if it is enabled; false otherwise.
 bool RunWorldCommand(int id);
 
-// The world map to "data\database\WorldMap.dat"; the modified flag clears even when the
-// write failed, which is not reported here.
-void SaveWorldMap();
+// The world map to "data\database\WorldMap.dat"; the modified flag clears once it is
+// written. False when the write failed: the edits are then still to be asked about.
+bool SaveWorldMap();
 
 // The question on closing the window while the map may have changed: yes saves, no reads
 // the file again (a failed read leaves the edits in memory), cancel keeps the window.

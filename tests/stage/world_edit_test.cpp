@@ -286,6 +286,16 @@ TEST_F(WorldEditTest, SaveAndCloseStillAsksAndNoReadsBackTheFileJustWritten) {
   RunWorldCommand(IDW_CLOSE);
   EXPECT_TRUE(m_host.closeAccepted) << "an unmodified map closes without the question";
   EXPECT_EQ(m_prompt.shown.size(), 3u);
+
+  // A save that cannot write leaves the map modified, and yes to the question keeps the window.
+  std::filesystem::remove(Path("data/database/WorldMap.dat"));
+  std::filesystem::create_directory(Path("data/database/WorldMap.dat"));  // a folder where the file goes
+  g_EditState.m_bWorldModified = 1;
+  RunWorldCommand(IDW_SAVE_KEY);
+  EXPECT_EQ(g_EditState.m_bWorldModified, 1);
+  m_prompt.answers = {IDYES};
+  RunWorldCommand(IDW_CLOSE);
+  EXPECT_FALSE(m_host.closeAccepted);
 }
 
 TEST_F(WorldEditTest, SettingsOkEmptiesTheHistoryAndTheClearCommandsAskFirst) {
