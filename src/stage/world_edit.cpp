@@ -136,9 +136,15 @@ void CopyMenuEvent(bool cut) {
   MarkModified();
 }
 
+// The map's menu can open over the view beyond the map's edge; an event put there would
+// vanish at the next save.
+bool CursorOnMap() {
+  return CursorX() >= 0 && CursorY() >= 0 && CursorX() < g_WorldMap.m_nWidth && CursorY() < g_WorldMap.m_nHeight;
+}
+
 void PasteMenuEvent() {
   cWorldEditState& es = ES();
-  if (!es.m_bEventClip) return;
+  if (!es.m_bEventClip || !CursorOnMap()) return;
   WorldPushUndo();
   cWorldEvent copy = es.m_EventClip;
   Number(copy, g_WorldMap.EventAt(CursorX(), CursorY()));
@@ -147,6 +153,7 @@ void PasteMenuEvent() {
 }
 
 void NewMenuEvent() {
+  if (!CursorOnMap()) return;
   cWorldEvent temp;
   Number(temp, g_WorldMap.EventAt(CursorX(), CursorY()));
   temp.m_nX = CursorX();

@@ -260,6 +260,15 @@ TEST_F(WorldEditTest, TheEventMenuCopiesIntoBothClipboardsAndPastesWithANewNumbe
   Mouse(eMapMouse::kRightDown, 5, 5, false, true);
   Mouse(eMapMouse::kRightUp, 5, 5, false);
   EXPECT_EQ(std::make_tuple(NumberAt(5, 5), g_WorldMap.EventAt(5, 5)->m_strName), std::make_tuple(1, std::string("edited")));
+
+  // Beyond the map's edge neither puts an event, which would not last.
+  const int placed = g_WorldMap.m_vecEvent.Count();
+  for (int choice : {IDM_EVENT_PASTE, IDM_EVENT_NEW}) {
+    m_host.menuChoice = choice;
+    Mouse(eMapMouse::kRightDown, 10, 3, false, true);
+    Mouse(eMapMouse::kRightUp, 10, 3, false);
+  }
+  EXPECT_EQ(g_WorldMap.m_vecEvent.Count(), placed);
 }
 
 TEST_F(WorldEditTest, SaveAndCloseStillAsksAndNoReadsBackTheFileJustWritten) {
