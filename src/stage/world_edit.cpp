@@ -89,7 +89,11 @@ void Pen(const cMapMouseEvent& e, bool cellChanged) {
 
 void FinishPick() {
   cWorldEditState& es = ES();
-  const cCellRect rect = PickedRect(es.m_nDragX, es.m_nDragY, CursorX(), CursorY());
+  cCellRect rect = PickedRect(es.m_nDragX, es.m_nDragY, CursorX(), CursorY());
+  // The brush stops at the map's edge: a cell beyond it would leave an earlier pick's
+  // chip in the brush, for the pen to paint.
+  rect.w = std::max(0, std::min(rect.w, g_WorldMap.m_nWidth - rect.x));
+  rect.h = std::max(0, std::min(rect.h, g_WorldMap.m_nHeight - rect.y));
   es.m_nBrushW = std::min(rect.w, +cWorldEditState::kBrushW);
   es.m_nBrushH = std::min(rect.h, +cWorldEditState::kBrushH);
   WalkBrush(rect.x, rect.y, rect.w, rect.h, g_WorldMap.m_nWidth, g_WorldMap.m_nHeight, cWorldEditState::kBrushW,

@@ -185,6 +185,8 @@ TEST_F(WorldEditTest, APickTakesTheRangeIntoTheBrushAndTheLargestMapFillsItExact
   Click(0, 0);
   Pick(0, 0, 3, 3);
   EXPECT_EQ(std::make_tuple(Cell(0, 0), g_WorldEditState.m_aBrushChip[0]), std::make_tuple(1, 1u));
+  EXPECT_EQ(std::make_tuple(g_WorldEditState.m_nBrushW, g_WorldEditState.m_nBrushH), std::make_tuple(1, 1))
+      << "the brush stops at the map's edge";
 }
 
 TEST_F(WorldEditTest, APickOutsideTheViewScrollsByTheDragRulesAndEndsOnTheRelease) {
