@@ -1,5 +1,7 @@
 #include "stage/world_edit.h"
 
+#include <algorithm>
+
 #include "platform/cp932.h"
 #include "platform/diagnostics.h"
 #include "project/project_globals.h"
