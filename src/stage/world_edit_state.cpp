@@ -11,6 +11,7 @@ void cWorldEditState::Reset() {
   m_nSelected = m_nListSel = 0;
   m_nDragX = m_nDragY = -1;
   m_nBrushW = m_nBrushH = 1;
+  m_aBrushChip.fill(0);  // chip 0 is the one shown selected; no earlier pick stays behind
   m_bPicking = 0;
   m_pEditEvent = nullptr;
   m_eDrag = eMapDrag::kIdle;

@@ -187,6 +187,8 @@ TEST_F(WorldEditTest, APickTakesTheRangeIntoTheBrushAndTheLargestMapFillsItExact
   EXPECT_EQ(std::make_tuple(Cell(0, 0), g_WorldEditState.m_aBrushChip[0]), std::make_tuple(1, 1u));
   EXPECT_EQ(std::make_tuple(g_WorldEditState.m_nBrushW, g_WorldEditState.m_nBrushH), std::make_tuple(1, 1))
       << "the brush stops at the map's edge";
+  OpenWorldEdit();
+  EXPECT_EQ(g_WorldEditState.m_aBrushChip[0], 0u) << "a window opened anew paints the chip it shows selected";
 }
 
 TEST_F(WorldEditTest, APickOutsideTheViewScrollsByTheDragRulesAndEndsOnTheRelease) {
