@@ -63,9 +63,9 @@ DLG_STAGE::DLG_STAGE(const cStage& source, QWidget* parent)
     const cDescriptionFace& face = kDescriptionFaces[i];
     cDescription& d = m_aDesc[i];
     d.id = kDescriptionIds[i];
+    d.work = &(s.*face.field);
     cListInit<cEndCond> init = NumberedRows<cEndCond>(
-        &d.work, 0, kMaxLines, [](std::string& out, int, const cEndCond& line) { out = line.m_strText; });
-    init.pSource = &(s.*face.field);
+        d.work, 0, kMaxLines, [](std::string& out, int, const cEndCond& line) { out = line.m_strText; });
     F.Group(face.title);
     F.List(d.id + kListOffset, "", d.list, init, face.ids, kMaxLines + 1).Span(3).Row();
     F.Button(d.id + kInsertOffset, "挿入");
@@ -102,7 +102,7 @@ void DLG_STAGE::OnFormCommand(unsigned id, unsigned code) {
 void DLG_STAGE::Insert(cDescription& d) {
   if (!d.list.Insert()) return;
   const int row = d.list.m_nCurSel;
-  if (RunEndCond(d.work[row], m_hWnd) == 1) {
+  if (RunEndCond((*d.work)[row], m_hWnd) == 1) {
     d.list.Redraw();
     return;
   }
@@ -113,7 +113,7 @@ void DLG_STAGE::Insert(cDescription& d) {
 
 void DLG_STAGE::Edit(cDescription& d) {
   const int row = d.list.GetSel();
-  if (d.list.IsReal(row) && RunEndCond(d.work[row], m_hWnd) == 1) d.list.Redraw();
+  if (d.list.IsReal(row) && RunEndCond((*d.work)[row], m_hWnd) == 1) d.list.Redraw();
 }
 
 void DLG_STAGE::Play() {

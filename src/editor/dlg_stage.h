@@ -53,9 +53,11 @@ class DLG_STAGE : public cRecordForm<cStage>, public cLiveInstance<DLG_STAGE> {
 
   DLG_STAGE(const cStage& source, QWidget* parent);
 
+  // Each list works on the form's copy of the stage itself, so that refreshing one list
+  // after a command in another never takes back its edits; OK hands the copy on whole.
   struct cDescription {
     CTRL_LIST_CLASS<cEndCond> list;
-    VECTOR_CLASS<cEndCond> work;
+    VECTOR_CLASS<cEndCond>* work = nullptr;  // a list of the copy
     unsigned id;
   };
   cDescription m_aDesc[kDescriptions];

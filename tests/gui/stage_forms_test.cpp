@@ -124,7 +124,10 @@ TEST_F(StageFormsTest, DescriptionLinesComeFromTheirFormAndAFifthIsRefused) {
     EXPECT_EQ(List(form, DLG_STAGE::kIdWinList)->item(0)->text(), QStringLiteral("1 Hold"));
     DuringModal([](DLG_CLASS& line) { Click(line, kIdCancel); });
     Click(form, unsigned{DLG_STAGE::kIdWinList} + DLG_STAGE::kInsertOffset);
-    EXPECT_EQ(stage.m_aDesc[DLG_STAGE::kWin].work.Count(), 1) << "a declined line goes again";
+    EXPECT_EQ(stage.m_aDesc[DLG_STAGE::kWin].work->Count(), 1) << "a declined line goes again";
+    // A click in another list keeps this list's edits.
+    List(form, DLG_STAGE::kIdLoseList)->setCurrentRow(1);
+    EXPECT_EQ(List(form, DLG_STAGE::kIdWinList)->item(0)->text(), QStringLiteral("1 Hold"));
     Click(form, kIdOk);
   });
   ASSERT_EQ(RunStageSettings(nullptr), 1);
