@@ -32,12 +32,15 @@ void AnimatedPreviewChanged() {
   if (g_IdleClients.previewsChanged != nullptr) g_IdleClients.previewsChanged();
 }
 
+void ServeFocusRequest() {
+  if (g_pDlgMain == nullptr || !g_bFocusRequest) return;
+  g_bFocusRequest = 0;
+  if (g_IdleClients.focusMain != nullptr) g_IdleClients.focusMain();
+}
+
 bool IdleFrame() {
   if (g_pDlgMain == nullptr) return true;
-  if (g_bFocusRequest) {
-    g_bFocusRequest = 0;
-    if (g_IdleClients.focusMain != nullptr) g_IdleClients.focusMain();
-  }
+  ServeFocusRequest();
   g_FrameCounter.Tick(GetTickMs());
   if (g_IdleClients.giveFrames != nullptr) g_IdleClients.giveFrames();
   return true;

@@ -45,3 +45,6 @@ void AnimatedPreviewChanged();
 // One frame: the focus request, the frame count, the frames of the dialogs. Nothing
 // before the main dialog exists. Always true.
 bool IdleFrame();
+// Gives the focus back to the editing dialog if that was asked for; a frame does it, and
+// so does the window layer once the program is active again, whether or not frames run.
+void ServeFocusRequest();

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "app/app_frame.h"
+#include "app/idle_frame.h"
 #include "app/stage_commands.h"
 #include "editor/command_bar.h"
 #include "editor/dlg_chip.h"
@@ -62,6 +63,7 @@ VIEW_MAIN::VIEW_MAIN() {
   connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
     if (state == Qt::ApplicationActive) {
       g_bFocusRequest = 1;
+      QTimer::singleShot(0, this, ServeFocusRequest);
       ShowPalettes();
     } else if (!isMinimized() && !m_bMinimized) {
       HidePalettes();
@@ -245,6 +247,7 @@ void VIEW_MAIN::changeEvent(QEvent* event) {
     HidePalettes();
   } else {
     g_bFocusRequest = 1;
+    QTimer::singleShot(0, this, ServeFocusRequest);
     ShowPalettes();
   }
 }

@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QTimer>
 #include <QTest>
 #include <QToolButton>
@@ -93,6 +94,17 @@ TEST_F(StageEditorTest, TheMainWindowsShortcutsWorkFromAnActivePalette) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(enemies));
   QTest::keyClick(enemies, Qt::Key_Y, Qt::ControlModifier);
   EXPECT_FALSE(g_EditState.m_History.CanRedo());
+}
+
+TEST_F(StageEditorTest, AWindowBroughtBackGivesTheMapTheFocusWithoutAPlayingPreview) {
+  m_view->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(m_view));
+  m_view->menuBar()->setFocus();  // the focus elsewhere in the window
+  ASSERT_NE(m_view->focusWidget(), m_view->Dlg());
+  m_view->showMinimized();
+  m_view->showNormal();
+  QTest::qWait(50);
+  EXPECT_EQ(m_view->focusWidget(), m_view->Dlg());
 }
 
 TEST_F(StageEditorTest, SpaceInTheChipPaletteChangesThePaletteOnceTheKeyIsHandled) {
