@@ -7,5 +7,7 @@
 
 // When the environment does not yet ask the C library for a huge-page heap, adds that
 // request and starts this program again in place with the same arguments. Returns only
-// when that is not done or not possible; the program then runs on as it is.
+// when that is not done or not possible; the program then runs on as it is. In the
+// restarted program it puts the environment back as it was given, so that the programs
+// it starts inherit nothing of the restart.
 void RestartWithHugePageHeap(char** argv);
