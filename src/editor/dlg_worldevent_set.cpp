@@ -83,7 +83,7 @@ DLG_WORLDEVENT_SET::DLG_WORLDEVENT_SET(cWorldEvent& target, QWidget* parent)
 
 // Row 0 of the condition's variables is the absence of a condition.
 void DLG_WORLDEVENT_SET::RefillVariables() {
-  m_vecVarRows = CommonVarLabels();
+  BuildVarLabels(m_vecVarRows);
   BuildVarLabelsWithNone(m_vecCondVarRows);
 }
 

@@ -19,6 +19,9 @@
 template <class Map, class Event>
 class cMapCells {
  public:
+  // Whether (x, y) is a cell of the map.
+  bool HasCell(int x, int y) const { return x >= 0 && y >= 0 && x < Self().m_nWidth && y < Self().m_nHeight; }
+
   // Every cell becomes 0; the dimensions stay.
   void ClearMap() { std::fill(Self().m_vecMap.begin(), Self().m_vecMap.end(), 0); }
 

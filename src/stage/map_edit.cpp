@@ -30,7 +30,6 @@ cStageSnapshot& Snapshot() {
 
 int Depth() { return cUndoHistory::DepthOf(g_EditConfig.m_nUndoDepth); }
 
-bool OnMap(int x, int y) { return x >= 0 && y >= 0 && x < g_Stage.m_nWidth && y < g_Stage.m_nHeight; }
 int& CellRef(int x, int y) { return g_Stage.m_vecMap[g_Stage.CellIndex(x, y)]; }
 int CursorX() { return g_Cursor.Top().nX; }
 int CursorY() { return g_Cursor.Top().nY; }
@@ -110,7 +109,7 @@ bool LinePress() {
 void LineRelease() {
   const cEditState& es = ES();
   WalkLine(es.m_nLineX, es.m_nLineY, CursorX(), CursorY(), es.m_nBrushW, [&](int x, int y, int i) {
-    if (OnMap(x, y) && es.m_nPalette == PALETTE_CHIP) StampChip(x, y, i);
+    if (g_Stage.HasCell(x, y) && es.m_nPalette == PALETTE_CHIP) StampChip(x, y, i);
   });
   g_pHost->RefreshPalette();
 }
@@ -148,7 +147,7 @@ void RectRelease() {
 // running in circles.
 void Fill(int startX, int startY) {
   cEditState& es = ES();
-  if (startX < 0 || startY < 0 || startX >= g_Stage.m_nWidth || startY >= g_Stage.m_nHeight) return;
+  if (!g_Stage.HasCell(startX, startY)) return;
   const std::size_t cells = g_Stage.m_vecMap.size();
   std::unique_ptr<unsigned char[]> marks(new (std::nothrow) unsigned char[cells]());
   if (marks == nullptr) {
@@ -292,7 +291,7 @@ void Pick(const cMapMouseEvent& e) {
 // The right double click on a single enemy opens its form from the enemy list.
 void EnemyEditShortcut() {
   const cEditState& es = ES();
-  if (es.m_nPalette != PALETTE_ENEMY || !OnMap(CursorX(), CursorY()) || es.m_nBrushW != 1 || es.m_nBrushH != 1) return;
+  if (es.m_nPalette != PALETTE_ENEMY || !g_Stage.HasCell(CursorX(), CursorY()) || es.m_nBrushW != 1 || es.m_nBrushH != 1) return;
   const int row = es.m_aBrushEnemy[0];
   if (row < 0) return;
   g_pHost->SelectEnemyRow(row);

@@ -49,8 +49,6 @@ void DrawMapChara(cSurface& buffer, int px, int py, int g) {
   BlitSheetCell(buffer, px, py, g_aSheet[SHEET_MAP_CHARA], k * 64 + 32, (g - k * 20) * kMapCellPx);
 }
 
-bool OnStage(int x, int y) { return x >= 0 && y >= 0 && x < g_Stage.m_nWidth && y < g_Stage.m_nHeight; }
-
 // Chips of an unmasked sheet hide the cell wholly, so when the cells in view cover the
 // buffer only the cells without such a chip need clearing: the clear and the chips
 // together then touch each pixel once.
@@ -107,7 +105,7 @@ void DrawBrushChip(cSurface& buffer, const MAP_VIEW& view, int x, int y, int ind
 void DrawLinePreview(cSurface& buffer, const MAP_VIEW& view) {
   const cEditState& es = g_EditState;
   WalkLine(es.m_nLineX, es.m_nLineY, view.m_nCursorX, view.m_nCursorY, es.m_nBrushW, [&](int x, int y, int i) {
-    if (!OnStage(x, y)) return;
+    if (!g_Stage.HasCell(x, y)) return;
     DrawBrushChip(buffer, view, x, y, i);
     DrawCellFrame(buffer, view, x, y, 1, 1);
   });

@@ -144,9 +144,7 @@ void CopyMenuEvent(bool cut) {
 
 // The map's menu can open over the view beyond the map's edge; an event put there would
 // vanish at the next save.
-bool CursorOnMap() {
-  return CursorX() >= 0 && CursorY() >= 0 && CursorX() < g_WorldMap.m_nWidth && CursorY() < g_WorldMap.m_nHeight;
-}
+bool CursorOnMap() { return g_WorldMap.HasCell(CursorX(), CursorY()); }
 
 void PasteMenuEvent() {
   cWorldEditState& es = ES();
